@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "VyString.h"
+
+#include <QImage>
+
+/// Reads the preview picture that a file carries: the one that was stored in a
+/// DWG or DXF drawing or template, or what a PNG, JPEG or BMP file shows. Which
+/// of them a file is, is told by its content; but a picture that is named like a
+/// drawing has no preview.
+///
+/// Reading is bounded in time and memory whatever the file holds: pictures have
+/// at most 8192 pixels a side, 16 million in all and 32 MiB as stored, and of a
+/// drawing nothing but the preview is read.
+///
+/// One object reads one file after another and keeps the last picture that it
+/// found. Different objects may be used in different threads.
+class VY_HOSTKERNEL_EXPORT CVyPreviewBitmap
+{
+public:
+    /// A new reader without a picture; the caller owns and deletes it.
+    static CVyPreviewBitmap* Create();
+
+    virtual ~CVyPreviewBitmap() = default;
+
+    /// Reads the preview of the regular file, or link to one, at \a path and
+    /// answers whether there was one. Any doubt about the file is answered with
+    /// false, without a message; the picture found before then stays. What is
+    /// not a regular file is not opened.
+    virtual bool ReadPreview(const CVyString& path) = 0;
+
+    /// Copies the picture of the last successful ReadPreview(), at full size
+    /// and opaque unless the file says otherwise, into \a image; leaves
+    /// \a image alone when there was none.
+    virtual void CopyTo(QImage& image) const = 0;
+
+protected:
+    CVyPreviewBitmap() = default;
+
+private:
+    Q_DISABLE_COPY(CVyPreviewBitmap)
+};

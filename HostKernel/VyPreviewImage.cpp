@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "VyPreviewImage.h"
+
+#include "VyDibCheck.h"
+#include "VyPngCheck.h"
+#include "VyPreviewLimits.h"
+#include "VyPreviewSource.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QtEndian>
+
+#include <atomic>
+#include <cstdlib>
+#include <mutex>
+
+namespace VyPreviewImage {
+
+namespace {
+
+// Takes the messages of this thread while it lives: decoders describe what is
+// wrong with a picture in warnings, and a picture that is only half there comes
+// with nothing else. The messages of other threads go where they went before.
+class DecoderMessages
+{
+public:
+    DecoderMessages()
+        : m_lock(s_mutex)
+    {
+        s_count = &m_count;
+        // In two steps, as take() needs the handler before it: for a moment the
+        // messages of other threads go to Qt's own.
+        s_previous = qInstallMessageHandler(nullptr);
+        qInstallMessageHandler(take);
+    }
+    ~DecoderMessages()
+    {
+        const QtMessageHandler current = qInstallMessageHandler(s_previous);
+        if (current != take) // somebody else's, installed meanwhile
+            qInstallMessageHandler(current);
+        s_count = nullptr;
+    }
+    Q_DISABLE_COPY(DecoderMessages)
+
+    bool any() const { return m_count > 0; }
+
+private:
+    static void take(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (s_count)
+            ++*s_count;
+        else
+            s_previous.load()(type, context, text);
+    }
+
+    static std::mutex s_mutex; // one handler at a time
+    static std::atomic<QtMessageHandler> s_previous;
+    static thread_local int* s_count;
+
+    std::lock_guard<std::mutex> m_lock;
+    int m_count = 0;
+};
+
+std::mutex DecoderMessages::s_mutex;
+std::atomic<QtMessageHandler> DecoderMessages::s_previous{nullptr};
+thread_local int* DecoderMessages::s_count = nullptr;
+
+// The picture, unless it has a pixel whose colour is none of the first \a colours
+// of its palette; 0 stands for a picture without palette.
+QImage withinPalette(const QImage& picture, int colours)
+{
+    for (int y = 0; colours > 0 && y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelIndex(x, y) >= colours)
+                return {};
+        }
+    }
+    return picture;
+}
+
+QImage decoded(QByteArray bytes, const char* format)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
+    const DecoderMessages messages;
+    // A top-down bitmap's height is negative here.
+    const QSize size(reader.size().width(), std::abs(reader.size().height()));
+    if (!VyPreviewLimits::allowsPicture(size.width(), size.height()))
+        return {};
+    // Qt decodes into a picture of the right kind that it is given. A run-length
+    // bitmap can jump over pixels, which would show what the memory held before.
+    QImage picture(size, reader.imageFormat());
+    picture.fill(0);
+    return reader.read(&picture) && !messages.any() ? picture : QImage();
+}
+
+constexpr int bmpHeaderSize = 14;
+constexpr int bmpOffsetAt = 10;
+
+QByteArray bmpHeader(qint64 pixelOffset)
+{
+    QByteArray header(bmpHeaderSize, '\0');
+    header.replace(0, 2, "BM");
+    qToLittleEndian(static_cast<quint32>(bmpHeaderSize + pixelOffset), header.data() + bmpOffsetAt);
+    return header;
+}
+
+// Only when the pixels stand where they are expected, without a gap.
+QImage fromBmp(const QByteArray& bmp)
+{
+    const QByteArray dib = bmp.mid(bmpHeaderSize);
+    const auto declared = qFromLittleEndian<quint32>(bmp.constData() + bmpOffsetAt);
+    return declared == bmpHeaderSize + VyDibCheck::pixelOffset(dib) ? fromDib(dib) : QImage();
+}
+
+QImage fromJpeg(const QByteArray& jpeg)
+{
+    const QByteArray scan = "\xFF\xDA"; // each goes over all of a progressive picture's pixels
+    const QByteArray end = "\xFF\xD9";
+    const bool isWhole = jpeg.lastIndexOf(end) > jpeg.lastIndexOf(scan);
+    return isWhole && jpeg.count(scan) <= VyPreviewLimits::mostScans ? decoded(jpeg, "jpeg")
+                                                                     : QImage();
+}
+
+struct PictureKind
+{
+    const char* signature;
+    QImage (*read)(const QByteArray& file);
+};
+
+constexpr PictureKind pictureKinds[] = {
+    {"\x89PNG", fromPng}, {"\xFF\xD8\xFF", fromJpeg}, {"BM", fromBmp}};
+
+} // namespace
+
+QImage fromDib(const QByteArray& dib)
+{
+    const qint64 pixelOffset = VyDibCheck::pixelOffset(dib);
+    if (pixelOffset == 0)
+        return {};
+    const QImage picture = decoded(bmpHeader(pixelOffset) + dib, "bmp");
+    return withinPalette(picture, picture.colorCount());
+}
+
+QImage fromPng(const QByteArray& png)
+{
+    const VyPngCheck::Essentials essentials = VyPngCheck::essentials(png);
+    if (essentials.file.isEmpty())
+        return {};
+    return withinPalette(decoded(essentials.file, "png"), essentials.colours);
+}
+
+QImage fromPictureFile(CVyPreviewSource& file)
+{
+    if (!VyPreviewLimits::allowsImage(file.size()))
+        return {};
+    const QByteArray start = file.read(0, 4);
+    for (const PictureKind& kind : pictureKinds) {
+        if (start.startsWith(kind.signature))
+            return kind.read(file.read(0, file.size()));
+    }
+    return {};
+}
+
+} // namespace VyPreviewImage

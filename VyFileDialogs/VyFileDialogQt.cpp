@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: MIT
+#include "VyFileDialogQt.h"
+
+#include "VyDocument.h"
+#include "VyFileDialogWidget.h"
+#include "VyFileTypeList.h"
+#include "VySidebarPlaces.h"
+#include "VyUtils.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QCursor>
+#include <QDir>
+#include <QThread>
+
+#include <utility>
+
+namespace {
+
+// A widget outside the thread of a QApplication would end the host.
+bool canShowWidgets()
+{
+    return qobject_cast<QApplication*>(QCoreApplication::instance())
+           && QThread::currentThread() == qApp->thread();
+}
+
+QWidget* activeView()
+{
+    const CVyDocument* document = ACTIVE_DOCUMENT();
+    return document ? document->GetViewWidget() : nullptr;
+}
+
+// Shows an arrow over the active document's view, where the application may
+// have a cursor of its own. The document is asked anew at the end: the host may
+// have made another one active.
+class ViewCursor
+{
+public:
+    ViewCursor()
+    {
+        if (QWidget* view = activeView()) {
+            m_saved = view->cursor();
+            view->setCursor(Qt::ArrowCursor);
+        }
+    }
+    ~ViewCursor()
+    {
+        if (QWidget* view = activeView())
+            view->setCursor(m_saved);
+    }
+    Q_DISABLE_COPY(ViewCursor)
+
+private:
+    QCursor m_saved;
+};
+
+// Deletes the dialog widget however show() ends.
+class WidgetOwner
+{
+public:
+    explicit WidgetOwner(const QPointer<CVyFileDialogWidget>& widget)
+        : m_widget(widget)
+    {}
+    ~WidgetOwner() { delete m_widget; }
+    Q_DISABLE_COPY(WidgetOwner)
+
+private:
+    const QPointer<CVyFileDialogWidget> m_widget;
+};
+
+int runOverView(CVyFileDialogWidget& widget)
+{
+    const ViewCursor cursor;
+    return widget.exec();
+}
+
+} // namespace
+
+CVyFileDialogQt::CVyFileDialogQt(int fileMode, int acceptMode)
+    : m_fileMode(fileMode)
+    , m_acceptMode(acceptMode)
+{}
+
+CVyFileDialogQt::~CVyFileDialogQt() = default;
+
+int CVyFileDialogQt::setTitle(const CVyString& title)
+{
+    m_title = title;
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::setDefaultExtension(const CVyString& extension)
+{
+    m_defaultExtension = extension;
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::setDefaultFolder(const CVyString& folder)
+{
+    m_defaultFolder = CVyString(QDir::toNativeSeparators(folder));
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::setDefaultFileName(const CVyString& name)
+{
+    m_defaultFileName = name;
+    return 0;
+}
+
+int CVyFileDialogQt::setFileTypes(const CVyString& filter)
+{
+    const VyFileTypeList::Types types
+        = VyFileTypeList::fromConverted(CVyUtils::ConvertToQtFilter(filter));
+    m_qtFilter = types.qtFilter;
+    m_extensionLists = types.extensionLists;
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::setFileTypeIndex(int index)
+{
+    m_selectedFilter = VyFileTypeList::entryAt(m_qtFilter, index);
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::setDefaultTemplateName(const CVyString&)
+{
+    return 0;
+}
+
+void CVyFileDialogQt::setExpert(int level)
+{
+    m_expertLevel = level;
+}
+
+int CVyFileDialogQt::show(unsigned long long parentWindow)
+{
+    if (!canShowWidgets())
+        return VyStatus::Failed;
+    QWidget* parent = QWidget::find(static_cast<WId>(parentWindow));
+    m_widget = new CVyFileDialogWidget(parent, this, m_title, m_defaultFolder, m_qtFilter,
+                                       m_previewAllowed);
+    const WidgetOwner owner(m_widget);
+    configureWidget();
+    m_widget->addPlaces(VySidebarPlaces::urls(m_defaultFolder));
+
+    // The widget is gone when the host deleted its parent meanwhile.
+    if (runOverView(*m_widget) == QDialog::Rejected || !m_widget)
+        return VyStatus::Cancelled;
+    m_results = m_widget->selectedFiles();
+    m_selectedFilter = CVyString(m_widget->selectedNameFilter());
+    return VyStatus::Accepted;
+}
+
+// The order matters: the accept mode names the buttons that the subclass looks
+// for, and a file can be selected only once the mode allows it.
+void CVyFileDialogQt::configureWidget()
+{
+    if (m_expertLevel >= 2)
+        m_widget->setOption(QFileDialog::DontConfirmOverwrite, true);
+    m_widget->setDefaultSuffix(m_defaultExtension);
+    m_widget->selectNameFilter(m_selectedFilter);
+    m_widget->setFileMode(static_cast<QFileDialog::FileMode>(m_fileMode));
+    m_widget->setAcceptMode(static_cast<QFileDialog::AcceptMode>(m_acceptMode));
+    HandleDialogInitialization();
+    m_fileNameEdit = m_widget->findChildren<QLineEdit*>().value(0);
+    keepNameOnTypeChange();
+    m_widget->selectFile(m_defaultFileName);
+}
+
+int CVyFileDialogQt::getResult(CVyString* path)
+{
+    if (!path)
+        return VyStatus::Failed;
+    if (m_results.isEmpty())
+        return VyStatus::NothingSelected;
+    *path = CVyString(m_results.constFirst());
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::getResults(std::vector<CVyString>* paths)
+{
+    if (!paths)
+        return VyStatus::Failed;
+    if (m_results.isEmpty())
+        return VyStatus::NothingSelected;
+    paths->insert(paths->end(), m_results.cbegin(), m_results.cend());
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::getFileTypeIndex(int* index)
+{
+    const int position = VyFileTypeList::indexOf(m_qtFilter, m_selectedFilter);
+    if (!index || position < 0)
+        return VyStatus::Failed;
+    *index = position;
+    return VyStatus::Accepted;
+}
+
+int CVyFileDialogQt::getTemplateName(CVyString*)
+{
+    return 0;
+}
+
+int CVyFileDialogQt::getNewMode()
+{
+    return m_newMode;
+}
+
+int CVyFileDialogQt::getOpenMode()
+{
+    return m_openMode;
+}
+
+void CVyFileDialogQt::onTypeChange(const QString& filter)
+{
+    const QString typedName = takeTypedName();
+    const QStringList entries = VyFileTypeList::entries(m_qtFilter);
+    const QStringList lists = VyFileTypeList::splitLists(m_extensionLists);
+    const int type = entries.indexOf(filter);
+    if (!m_widget || type < 0 || entries.size() != lists.size())
+        return;
+    const QStringList extensions = VyFileTypeList::splitExtensions(lists.at(type));
+    if (!extensions.isEmpty()) {
+        m_widget->setDefaultSuffix(extensions.constFirst());
+        m_widget->selectNameFilter(filter);
+    }
+    if (!m_fileNameEdit || typedName.isEmpty() || m_widget->selectedFiles().isEmpty())
+        return;
+    m_fileNameEdit->setText(
+        VyFileTypeList::nameForType(m_widget->directory(), typedName, extensions));
+}
+
+// A saving QFileDialog gives the name the first extension of a new type by
+// itself, before it says that the type has changed, and so takes away an
+// extension that the new type has too. This keeps what the user had typed.
+void CVyFileDialogQt::keepNameOnTypeChange()
+{
+    auto* types = m_widget->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    if (!types || !m_fileNameEdit)
+        return;
+    QObject::connect(types, QOverload<int>::of(&QComboBox::currentIndexChanged), m_fileNameEdit,
+                     [this] { m_nameBeforeTypeChange = m_fileNameEdit->text(); });
+}
+
+QString CVyFileDialogQt::takeTypedName()
+{
+    QString name = m_fileNameEdit ? m_fileNameEdit->text() : QString();
+    if (!m_nameBeforeTypeChange.isNull())
+        name = std::exchange(m_nameBeforeTypeChange, QString());
+    return name;
+}
+
+void CVyFileDialogQt::onActionOpen() {}
+void CVyFileDialogQt::onActionOpenReadOnly() {}
+void CVyFileDialogQt::onActionOpenWithEncoding() {}
+void CVyFileDialogQt::onActionNew() {}
+void CVyFileDialogQt::onActionNewNoTemplateImperial() {}
+void CVyFileDialogQt::onActionNewNoTemplateMetric() {}

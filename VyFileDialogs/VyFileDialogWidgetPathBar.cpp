@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// The row of folder buttons above the dialog.
+#include "VyFileDialogWidget.h"
+
+#include "VyPathBar.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+
+namespace {
+
+// The two fonts of the row, made from the font of its first button.
+QFont fontOf(const CVyDirPushButton* first, bool current)
+{
+    QFont font = first->font();
+    font.setWeight(current ? QFont::Bold : QFont::Normal);
+    return font;
+}
+
+} // namespace
+
+// Lays the row out unless it already stands for \a path, which a folder that is
+// announced twice, or reached by the row's own button, does. The place above
+// the root has no path; the row reads "/" there.
+void CVyFileDialogWidget::showFolder(const QString& path)
+{
+    const QString folder = path.isEmpty() ? QStringLiteral("/") : path;
+    takeFocusFromPathBar();
+    if (folder != m_shownFolder)
+        layoutDirSelector(folder);
+}
+
+void CVyFileDialogWidget::layoutDirSelector(const QString& path)
+{
+    const QStringList parts = VyPathBar::parts(path);
+    removeFolderButtons(VyPathBar::staying(folderNames(), parts));
+    for (int i = m_folderButtons.size(); i < parts.size(); ++i)
+        addFolderButton(parts.at(i));
+
+    markCurrent(m_folderButtons.at(parts.size() - 1));
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
+        button->updateMaxWidth();
+        button->setMinimumWidth(VyPathBar::MinimumWidth);
+        button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    }
+    layout()->update();
+    m_shownFolder = path;
+}
+
+void CVyFileDialogWidget::dirButtonPressed(QPushButton* button)
+{
+    const int index = m_folderButtons.indexOf(static_cast<CVyDirPushButton*>(button));
+    if (index < 0)
+        return;
+    const QString folder = VyPathBar::folderOf(folderNames(), index);
+    markCurrent(m_folderButtons.at(index));
+    for (CVyDirPushButton* each : qAsConst(m_folderButtons))
+        each->setMaximumWidth(VyPathBar::paddedWidth(each->fontMetrics(), each->shownName()));
+
+    m_shownFolder = folder.isEmpty() ? QStringLiteral("/") : folder;
+    setDirectory(folder);
+    onChangedDirectory(); // tells the truth when that folder is gone
+}
+
+void CVyFileDialogWidget::resizeEvent(QResizeEvent* event)
+{
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
+        button->showFullName();
+        button->updateMaxWidth();
+        button->updateSize();
+    }
+    QDialog::resizeEvent(event);
+}
+
+QStringList CVyFileDialogWidget::folderNames() const
+{
+    QStringList names;
+    for (const CVyDirPushButton* button : m_folderButtons)
+        names.append(button->fullName());
+    return names;
+}
+
+void CVyFileDialogWidget::removeFolderButtons(int from)
+{
+    while (m_folderButtons.size() > from) {
+        CVyDirPushButton* button = m_folderButtons.takeLast();
+        m_pathBar->removeWidget(button);
+        delete button;
+    }
+}
+
+void CVyFileDialogWidget::addFolderButton(const QString& name)
+{
+    auto* button = new CVyDirPushButton(name, this);
+    connect(button, SIGNAL(dirClicked(QPushButton*)), this, SLOT(dirButtonPressed(QPushButton*)));
+    m_folderButtons.append(button);
+    m_pathBar->addWidget(button, 0, Qt::AlignLeft);
+}
+
+// Bold names the folder that the dialog shows.
+void CVyFileDialogWidget::markCurrent(const CVyDirPushButton* current)
+{
+    const QFont normal = fontOf(m_folderButtons.constFirst(), false);
+    const QFont bold = fontOf(m_folderButtons.constFirst(), true);
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons))
+        button->setFont(button == current ? bold : normal);
+}
+
+// After a navigation Return is to mean the accept button again.
+void CVyFileDialogWidget::takeFocusFromPathBar()
+{
+    const auto* focused = qobject_cast<CVyDirPushButton*>(focusWidget());
+    auto* nameEdit = findChild<QLineEdit*>();
+    if (focused && nameEdit)
+        nameEdit->setFocus();
+}
+
+// The row stands first, but its buttons were made before those of the button
+// box. The chain is a ring: its end comes before the dialog's first widget, and
+// that is also where buttons made later are appended.
+void CVyFileDialogWidget::tabThroughPathBarFirst()
+{
+    QWidget* last = previousInFocusChain();
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
+        setTabOrder(last, button);
+        last = button;
+    }
+}

@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: MIT
+# What every target of this project has in common.
+
+# vy_target(<name>): language level, warnings, hidden symbols, moc, and the
+# instrumentation that the cache asks for.
+function(vy_target name)
+    set_target_properties(${name} PROPERTIES
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON
+        AUTOMOC ON)
+    target_compile_definitions(${name} PRIVATE
+        QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x050f00)
+    target_compile_options(${name} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+        -Wsign-conversion $<$<BOOL:${VY_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(VY_COVERAGE)
+        target_compile_options(${name} PRIVATE --coverage -fprofile-update=atomic)
+        target_link_options(${name} PRIVATE --coverage)
+    endif()
+    if(VY_SANITIZERS)
+        target_compile_options(${name} PRIVATE
+            -fsanitize=${VY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${name} PRIVATE -fsanitize=${VY_SANITIZERS})
+    endif()
+endfunction()
+
+# vy_shared_library(<name>): versioned, and complete in itself.
+function(vy_shared_library name)
+    set_target_properties(${name} PROPERTIES
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    # The sanitizers' runtime comes with the executable.
+    if(NOT APPLE AND NOT VY_SANITIZERS)
+        target_link_options(${name} PRIVATE LINKER:-z,defs)
+    endif()
+endfunction()

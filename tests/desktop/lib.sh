@@ -1,0 +1,56 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+# A desktop test: the command-line host in a real window, worked as a person
+# would. Called by ctest with the program and a folder for what is left behind.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/../../scripts/lib/display.sh"
+
+program=$1
+out=$2
+
+for tool in Xvfb openbox xdotool import xprop; do
+    command -v "$tool" >/dev/null || {
+        echo "skipped: $tool is not installed"
+        exit 77
+    }
+done
+
+# Every test starts with empty settings and a folder of its own.
+rm -rf "$out"
+mkdir -p "$out/work/ann/Plans" "$out/config" "$out/runtime"
+chmod 700 "$out/runtime"
+export HOME=$out/work XDG_CONFIG_HOME=$out/config XDG_RUNTIME_DIR=$out/runtime LC_ALL=C.UTF-8
+unset QT_QPA_PLATFORMTHEME
+plans=$out/work/ann/Plans
+
+fail() {
+    echo "FAILED: $*" >&2
+    screenshot "$out/failed.png" || true
+    exit 1
+}
+
+# expect WHAT IS SHOULD_BE
+expect() {
+    [[ $2 == "$3" ]] || fail "$1 is '$2', expected '$3'"
+    echo "ok: $1 is '$3'"
+}
+
+# ask TITLE ARGUMENT...: starts the program and waits for its window.
+ask() {
+    local title=$1
+    shift
+    "$program" "$@" --title "$title" >"$out/answer" 2>"$out/errors" &
+    dialog=$!
+    wait_for_window "$title" || fail "no window: $(cat "$out/errors")"
+}
+
+# Waits for the end; sets status and answer.
+finish() {
+    status=0
+    wait "$dialog" || status=$?
+    answer=$(cat "$out/answer")
+    expect 'what is said on standard error' "$(cat "$out/errors")" ''
+}
+
+start_display "$out/display"

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The manual page against the command.
+#include "CommandLine.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QtTest>
+
+#include <algorithm>
+
+namespace {
+
+// The options that the list under OPTIONS has entries for, as in the page:
+// "-null" and "0" are the flags of ".It Fl 0 , Fl -null".
+QStringList describedFlags(const QString& page)
+{
+    QStringList flags;
+    for (const QString& line : page.split('\n')) {
+        if (!line.startsWith(QLatin1String(".It Fl ")))
+            continue;
+        QRegularExpressionMatchIterator matches =
+            QRegularExpression(QStringLiteral("Fl ([-a-z0-9]+)")).globalMatch(line);
+        while (matches.hasNext())
+            flags.append(matches.next().captured(1));
+    }
+    std::sort(flags.begin(), flags.end());
+    return flags;
+}
+
+} // namespace
+
+class ManualTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void describesEveryOption();
+    void namesEveryOptionInTheSynopsis();
+    void givesEveryValueAName();
+    void passesLint();
+
+private:
+    QString m_page;
+};
+
+void ManualTest::initTestCase()
+{
+    QFile file(QStringLiteral(VY_MANUAL));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    m_page = QString::fromUtf8(file.readAll());
+}
+
+// Neither one too few nor one too many.
+void ManualTest::describesEveryOption()
+{
+    QStringList expected;
+    for (const QCommandLineOption& option : CommandLine::options()) {
+        for (const QString& name : option.names())
+            expected.append(name.size() == 1 ? name : QLatin1Char('-') + name);
+    }
+    std::sort(expected.begin(), expected.end());
+    QCOMPARE(describedFlags(m_page), expected);
+}
+
+void ManualTest::namesEveryOptionInTheSynopsis()
+{
+    const QString synopsis = m_page.section(".Sh SYNOPSIS", 1).section(".Sh ", 0, 0);
+    for (const QCommandLineOption& option : CommandLine::options()) {
+        const QRegularExpression flag(QStringLiteral("Fl -%1( |$)").arg(option.names().constLast()),
+                                      QRegularExpression::MultilineOption);
+        QVERIFY2(synopsis.contains(flag), qPrintable(option.names().constLast()));
+    }
+}
+
+void ManualTest::givesEveryValueAName()
+{
+    for (const QCommandLineOption& option : CommandLine::options()) {
+        const QString name = option.names().constLast();
+        const QString value = option.valueName();
+        const QString entry =
+            QStringLiteral("Fl -%1%2\n")
+                .arg(name, value.isEmpty() ? QString() : QLatin1String(" Ar ") + value);
+        QVERIFY2(m_page.contains(entry), qPrintable(entry));
+    }
+}
+
+void ManualTest::passesLint()
+{
+    const QString mandoc = QStandardPaths::findExecutable(QStringLiteral("mandoc"));
+    if (mandoc.isEmpty())
+        QSKIP("mandoc is not installed");
+    QProcess process;
+    process.start(mandoc, {"-T", "lint", "-W", "warning", VY_MANUAL});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), QString());
+    QCOMPARE(process.exitCode(), 0);
+}
+
+QTEST_GUILESS_MAIN(ManualTest)
+#include "ManualTest.moc"

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+// What a request leaves behind in its host: nothing.
+#include "DrawingFolder.h"
+#include "HostRequest.h"
+#include "VyDocument.h"
+
+#include <QDir>
+#include <QPushButton>
+#include <QtTest>
+
+#include <memory>
+
+// QtCore's table of debugging hooks (qhooks_p.h): 0 version of the table,
+// 3 called for every QObject made, 4 for every QObject deleted.
+extern quintptr Q_CORE_EXPORT qtHookData[];
+
+namespace {
+
+int s_objects = 0;
+
+void countNew(QObject*)
+{
+    ++s_objects;
+}
+
+void countDeleted(QObject*)
+{
+    --s_objects;
+}
+
+struct Possessions
+{
+    int objects = s_objects; // timers among them
+    int widgets = QApplication::allWidgets().size();
+    int windows = QGuiApplication::allWindows().size();
+    int descriptors = QDir(QStringLiteral("/proc/self/fd")).entryList().size();
+    int threads = QDir(QStringLiteral("/proc/self/task")).entryList(QDir::NoDotAndDotDot).size();
+};
+
+// Lets what was posted, deleted later or wound down come to its end.
+void settle()
+{
+    QTest::qWait(100);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void expectNoMore(const Possessions& now, const Possessions& before)
+{
+    QVERIFY2(now.objects <= before.objects, qPrintable(QString::number(now.objects)));
+    QVERIFY2(now.widgets <= before.widgets, qPrintable(QString::number(now.widgets)));
+    QVERIFY2(now.windows <= before.windows, qPrintable(QString::number(now.windows)));
+    QVERIFY2(now.descriptors <= before.descriptors, qPrintable(QString::number(now.descriptors)));
+    QVERIFY2(now.threads <= before.threads, qPrintable(QString::number(now.threads)));
+}
+
+} // namespace
+
+class LifetimeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void thousandRequests();
+    void restoresTheViewsCursor_data();
+    void restoresTheViewsCursor();
+    void survivesTheDocument();
+    void anotherDocumentGetsTheCursor();
+    void hostWindowIsLockedMeanwhile();
+    void requestInsideARequest();
+    void refusesWithoutItsThread();
+
+private:
+    void request(int number);
+
+    DrawingFolder m_folder;
+};
+
+void LifetimeTest::initTestCase()
+{
+    QVERIFY(qtHookData[0] >= 1);
+    qtHookData[3] = reinterpret_cast<quintptr>(&countNew);
+    qtHookData[4] = reinterpret_cast<quintptr>(&countDeleted);
+    CVyFileDialog::SetStyle(CVyFileDialog::StyleQt);
+    m_folder.addPicture("red.png", QSize(40, 30), Qt::red);
+}
+
+// Every kind, modes on and off, accepted and cancelled in turn.
+void LifetimeTest::request(int number)
+{
+    HostRequest request;
+    request.type = QVector<unsigned>{0x1, 0x2, 0x4, 0x102}.at(number % 4);
+    request.flags = static_cast<unsigned>(number / 4) % 2;
+    request.filter = QStringLiteral("All files&*");
+    request.start = m_folder.filePath(request.type == 4 ? QStringLiteral("new.png")
+                                                        : QStringLiteral("red.png"));
+    const bool accept = (number / 8) % 2;
+    const auto step = [accept](QDialog& dialog) {
+        accept ? dialog.done(QDialog::Accepted) : dialog.reject();
+    };
+    number % 3 ? request.getFileName({step}) : request.getFileNames({step});
+    QCOMPARE(request.status == VyStatus::Cancelled, !accept);
+}
+
+void LifetimeTest::thousandRequests()
+{
+    for (int i = 0; i < 48; ++i) // every combination once: what Qt keeps, it keeps from then on
+        request(i);
+    settle();
+    const Possessions before;
+    for (int i = 0; i < 1000 && !QTest::currentTestFailed(); ++i)
+        request(i);
+    settle();
+    expectNoMore(Possessions(), before);
+}
+
+void LifetimeTest::restoresTheViewsCursor_data()
+{
+    QTest::addColumn<bool>("accept");
+    QTest::newRow("accepted") << true;
+    QTest::newRow("cancelled") << false;
+}
+
+void LifetimeTest::restoresTheViewsCursor()
+{
+    QFETCH(bool, accept);
+    QWidget view;
+    view.setCursor(Qt::CrossCursor);
+    CVyDocument document(&view);
+    VySetActiveDocument(&document);
+    HostRequest().getFileName({[&](QDialog& dialog) {
+        QCOMPARE(view.cursor().shape(), Qt::ArrowCursor);
+        dialog.done(accept);
+    }});
+    QCOMPARE(view.cursor().shape(), Qt::CrossCursor);
+}
+
+void LifetimeTest::survivesTheDocument()
+{
+    QCOMPARE(ACTIVE_DOCUMENT(), nullptr);
+    auto* view = new QWidget;
+    auto* document = new CVyDocument(view);
+    VySetActiveDocument(document);
+    HostRequest().getFileName({[&](QDialog& dialog) {
+        delete view;
+        delete document;
+        dialog.reject();
+    }});
+    QCOMPARE(ACTIVE_DOCUMENT(), nullptr);
+}
+
+void LifetimeTest::anotherDocumentGetsTheCursor()
+{
+    QWidget first;
+    QWidget second;
+    first.setCursor(Qt::CrossCursor);
+    second.setCursor(Qt::WaitCursor);
+    CVyDocument firstDocument(&first);
+    CVyDocument secondDocument(&second);
+    VySetActiveDocument(&firstDocument);
+    HostRequest().getFileName({[&](QDialog& dialog) {
+        VySetActiveDocument(&secondDocument);
+        dialog.reject();
+    }});
+    QCOMPARE(first.cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(second.cursor().shape(), Qt::CrossCursor);
+}
+
+void LifetimeTest::hostWindowIsLockedMeanwhile()
+{
+    QPushButton hostButton;
+    QSignalSpy clicks(&hostButton, SIGNAL(clicked()));
+    hostButton.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&hostButton));
+    const auto use = [&] {
+        QTest::mouseClick(hostButton.windowHandle(), Qt::LeftButton);
+        QTest::mouseClick(&hostButton, Qt::LeftButton);
+        QTest::keyClick(&hostButton, Qt::Key_Space);
+    };
+    HostRequest().getFileName({[&](QDialog& dialog) {
+        use();
+        hostButton.close();
+        dialog.reject();
+    }});
+    QVERIFY(hostButton.isVisible());
+    QCOMPARE(clicks.size(), 0);
+    use();
+    QCOMPARE(clicks.size(), 3);
+}
+
+void LifetimeTest::requestInsideARequest()
+{
+    HostRequest inner;
+    HostRequest outer;
+    outer.getFileName({[&](QDialog& dialog) {
+        inner.type = CVyUserIO::FileNameSave;
+        inner.start = m_folder.filePath("inner.dwg");
+        inner.withTypeIndex = false;
+        inner.getFileName({[](QDialog& second) { second.done(QDialog::Accepted); }});
+        QVERIFY(dialog.isVisible());
+        dialog.reject();
+    }});
+    QCOMPARE(inner.status, VyStatus::Accepted);
+    QCOMPARE(inner.paths, QStringList{m_folder.filePath("inner.dwg")});
+    QCOMPARE(outer.status, VyStatus::Cancelled);
+}
+
+void LifetimeTest::refusesWithoutItsThread()
+{
+    int status = 0;
+    std::unique_ptr<QThread> thread(QThread::create([&] {
+        CVyString path;
+        const CVyString text;
+        status = CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text,
+                                            text, text, nullptr, nullptr,
+                                            CVyUserIO::FileNameNoFlags, nullptr);
+    }));
+    thread->start();
+    QVERIFY(thread->wait(5000));
+    QCOMPARE(status, VyStatus::Failed);
+}
+
+QTEST_MAIN(LifetimeTest)
+#include "LifetimeTest.moc"
