@@ -164,10 +164,7 @@ private:
     // So many single pixels, padded to an even number of bytes.
     bool literal(qint64 count)
     {
-        const qint64 bytes = (count * m_header.depth + 15) / 16 * 2;
-        if (!has(bytes))
-            return false;
-        m_at += bytes;
+        m_at += (count * m_header.depth + 15) / 16 * 2;
         return pixels(count);
     }
 

@@ -92,10 +92,9 @@ QByteArray sectionBytes(Lines lines)
     qint64 declared = 0;
     QByteArray bytes;
     while (!lines.atEnd()) {
-        bool isNumber = false;
-        const int code = lines.next().toInt(&isNumber);
+        const int code = lines.next().toInt(); // 0, and so the end, when it is no number
         const QByteArray value = lines.next();
-        if (!isNumber || (code == 310 && !isHexadecimal(value)))
+        if (code == 310 && !isHexadecimal(value))
             return {};
         if (code == 0)
             return value == "ENDSEC" && bytes.size() == declared ? bytes : QByteArray();

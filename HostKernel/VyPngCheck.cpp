@@ -210,7 +210,7 @@ public:
     bool atEnd()
     {
         QByteArray row(1, 0);
-        return unpack(row) == Z_STREAM_END && m_stream.avail_out == 1 && m_stream.avail_in == 0;
+        return unpack(row) == Z_STREAM_END && m_stream.avail_in == 0;
     }
 
 private:

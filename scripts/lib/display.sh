@@ -41,14 +41,37 @@ wait_until() {
     done
 }
 
-# wait_for_window TITLE: until the active window has that title.
-wait_for_window() { wait_until "a window titled \"$1\"" 30 active_window_is "$1"; }
-active_window_is() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1" ]]; }
+# wait_for_window TITLE: until the active window has that title and is painted.
+wait_for_window() {
+    wait_until "a window titled \"$1\"" 60 active_window_is "$1" && settle
+}
+active_window_is() {
+    [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == "$1" &&
+        $(xdotool getwindowfocus getwindowname 2>/dev/null) == "$1" ]]
+}
 
-# press KEY...: one key press after the other, as fast as a quick user.
-press() { xdotool key --delay 120 "$@" && sleep 0.4; }
+# Waits, as a person does, until the screen has stopped changing.
+settle() { wait_until 'a quiet screen' 60 screen_is_still; }
+screen_is_still() {
+    local before
+    before=$(screen_sum)
+    sleep 0.15
+    [[ $(screen_sum) == "$before" ]]
+}
+screen_sum() { import -window root -depth 8 rgb:- | cksum; }
 
-write() { xdotool type --delay 30 "$1" && sleep 0.4; }
+# press KEY...: one key after the other, each when the one before has shown its effect.
+press() {
+    local key
+    for key in "$@"; do
+        xdotool key "$key" && settle
+    done
+}
+
+write() { xdotool type --delay 30 "$1" && settle; }
+
+# click X Y: in the active window
+click() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1 && settle; }
 
 # screenshot FILE
 screenshot() { mkdir -p "$(dirname "$1")" && import -window root "$1"; }

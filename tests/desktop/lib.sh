@@ -48,9 +48,12 @@ ask() {
 # Waits for the end; sets status and answer.
 finish() {
     status=0
+    wait_until 'the end of the dialog' 60 dialog_has_ended || fail 'the dialog is still open'
     wait "$dialog" || status=$?
     answer=$(cat "$out/answer")
     expect 'what is said on standard error' "$(cat "$out/errors")" ''
 }
+
+dialog_has_ended() { ! kill -0 "$dialog" 2>/dev/null; }
 
 start_display "$out/display"

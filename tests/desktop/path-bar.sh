@@ -12,8 +12,7 @@ ask 'Deep Folder' open --start "$deep" --filter "$types"
 screenshot "$out/deep.png"
 # The root's button is the first of the row; a name typed after a click on it
 # counts from the root.
-xdotool mousemove --window "$(xdotool getactivewindow)" 25 25 click 1
-sleep 0.4
+click 25 25
 write "${plans#/}/plan.dwg"
 screenshot "$out/root.png"
 press Return

@@ -192,6 +192,7 @@ void DibImageTest::badHeader_data()
     size("one pixel too wide", 8193, 1, 1, 0);
     size("one pixel too high", 1, 8193, 1, 0);
     size("one pixel too high, top-down", 1, -8193, 1, 0);
+    size("top-down, run-length", 4, -4, 8, 1);
     size("too many pixels", 8192, 2049, 1, 0);
     size("too many pixels, run-length", 8192, 2049, 8, 1);
     size("largest width", highest, 1, 8, 0);
@@ -227,7 +228,6 @@ void DibImageTest::badHeader_data()
     field("8-bit runs in 4 bits", 4, 1, 40, 0, 1);
     field("4-bit runs in 8 bits", 8, 1, 40, 0, 2);
     field("masks in 8 bits", 8, 1, 40, 0, 3);
-    field("masks of 0", 32, 1, 40, 0, 3);
 }
 
 void DibImageTest::badHeader()
@@ -248,11 +248,11 @@ void DibImageTest::badHeader()
     dib.coloursUsed = coloursUsed;
     dib.compression = compression;
     if (compression == 1 || compression == 2)
-        dib.pixels = QByteArray("\x01\x01\x00\x01", 4); // sound, whatever the size
+        dib.pixels = QByteArray("\0\1", 2); // the end mark, sound whatever the size
     else
-        dib.pixels += QByteArray(8192, 0); // so that the header alone is at fault
+        dib.pixels += QByteArray(1 << 22, 0); // so that the header alone is at fault
     if (compression == 3)
-        dib.masks = QByteArray(12, 0);
+        dib.masks = masks(0xFF0000, 0xFF00, 0xFF);
     QVERIFY(VyPreviewImage::fromDib(dib.bytes()).isNull());
 }
 
@@ -266,7 +266,8 @@ void DibImageTest::incomplete_data()
     colourless.coloursUsed = 15;
     colourless.palette.truncate(4 * 15);
     QTest::newRow("colour missing") << colourless.bytes();
-    QTest::newRow("header cut") << whole.left(39);
+    for (const int size : {4, 20, 39})
+        QTest::addRow("header cut after %d bytes", size) << whole.left(size);
     QTest::newRow("header alone") << whole.left(40);
     QTest::newRow("palette cut") << whole.left(40 + 100);
     QTest::newRow("pixels missing") << whole.left(40 + 1024);
@@ -279,6 +280,8 @@ void DibImageTest::incomplete_data()
     Dib masked = testDib(1, 1, 32);
     masked.compression = 3;
     QTest::newRow("masks missing") << masked.bytes();
+    masked.masks = masks(0, 0, 0);
+    QTest::newRow("masks of 0") << masked.bytes();
     masked.masks = masks(0xFF0000, 0xFF00, 0);
     QTest::newRow("blue mask 0") << masked.bytes();
     masked.masks = masks(0xFF0000, 0xFF00, 0xFF);

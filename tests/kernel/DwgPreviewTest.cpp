@@ -82,6 +82,7 @@ private Q_SLOTS:
     void sectionAboveTwoGibibytes();
     void fileCutWhileRead();
     void triesFourPictures();
+    void triesNoPictureTwice();
 
 private:
     std::unique_ptr<HostLog> m_log;
@@ -185,10 +186,13 @@ void DwgPreviewTest::noPicture_data()
     row("PNG as bitmap", apart({{Bitmap, testPng(7, 5)}}));
     row("bitmap as PNG", apart({{Png, bitmap()}}));
 
-    for (const qint64 size : {0ll, 39ll, 40ll, 0x80000000ll, 0xFFFFFFFFll})
+    for (const qint64 size : {0ll, 39ll, 40ll, 30000000ll, 0x80000000ll, 0xFFFFFFFFll})
         row(qPrintable(QStringLiteral("image of %1 bytes").arg(size)), sized(size));
     const qint64 fileSize = startingAt(0).bytes().size();
     row("start at the highest place", startingAt(0xFFFFFFFF));
+    Dwg behind = startingAt(0xFFFFFFFF);
+    behind.gap.clear();
+    row("start at the highest place, image in order", behind);
     row("start and size past 2^32", startingAt(0x100000000 - bitmap().size() + 1));
     row("start at the file's end", startingAt(fileSize));
     row("start one byte too late for the size", startingAt(fileSize - bitmap().size() + 1));
@@ -207,6 +211,7 @@ void DwgPreviewTest::noPicture()
     QFETCH(QByteArray, file);
     SparseDevice device(file);
     QVERIFY(read(device).isNull());
+    QVERIFY(device.largestRequest() <= file.size());
 }
 
 void DwgPreviewTest::readsOnlyWhatItNeeds()
@@ -252,6 +257,15 @@ void DwgPreviewTest::triesFourPictures()
     device.put(0, dwg.bytes());
     QVERIFY(read(device).isNull());
     QCOMPARE(device.bytesRead(), qint64(17 + 21 + 255 * 9 + 4 * image.size()));
+}
+
+void DwgPreviewTest::triesNoPictureTwice()
+{
+    Dwg dwg;
+    dwg.records = {{Bitmap, bitmap().chopped(1)}};
+    SparseDevice device(dwg.bytes());
+    QVERIFY(read(device).isNull());
+    QCOMPARE(device.bytesRead(), qint64(17 + 21 + 9 + bitmap().size() - 1));
 }
 
 QTEST_GUILESS_MAIN(DwgPreviewTest)

@@ -109,6 +109,8 @@ void DxfPreviewTest::noPicture_data()
     QTest::newRow("binary DXF") << QByteArray("Program Binary DXF\r\n\x1a\0", 22) + section();
 
     QTest::newRow("odd number of digits") << dxfOf(section().replace("\n310\n2", "\n310\n"));
+    QTest::newRow("last digit missing")
+        << dxfOf(section().replace("0\n  0\nENDSEC", "\n  0\nENDSEC"));
     QTest::newRow("letters") << dxfOf(section().replace("\n310\n28", "\n310\nXY"));
     QTest::newRow("blank between digits") << dxfOf(section().replace("\n310\n28", "\n310\n2 "));
     QTest::newRow("NUL between digits")
@@ -169,6 +171,8 @@ void DxfPreviewTest::readsOnlyTheEnd_data()
     filling += QByteArray("999\n\n").repeated(
         static_cast<int>(VyDxfPreview::windowSize - filling.size()) / 5);
     QTest::newRow("section at the window's beginning") << filling << true;
+    QTest::newRow("name alone at the window's beginning")
+        << QByteArray("\nTHUMBNAILIMAGE\n").leftJustified(VyDxfPreview::windowSize, '\n') << false;
 }
 
 void DxfPreviewTest::readsOnlyTheEnd()

@@ -40,6 +40,25 @@ QByteArray greyRows()
     return plainRows(4, 4, 8);
 }
 
+// Grey pixels that count from 10, row by row, in the order of their seven passes.
+QByteArray interlacedRows(int width, int height)
+{
+    struct Pass
+    {
+        int left, top, stepRight, stepDown;
+    };
+    QByteArray rows;
+    for (const Pass& pass : {Pass{0, 0, 8, 8}, Pass{4, 0, 8, 8}, Pass{0, 4, 4, 8}, Pass{2, 0, 4, 4},
+                             Pass{0, 2, 2, 4}, Pass{1, 0, 2, 2}, Pass{0, 1, 1, 2}}) {
+        for (int y = pass.top; y < height && pass.left < width; y += pass.stepDown) {
+            rows += '\0';
+            for (int x = pass.left; x < width; x += pass.stepRight)
+                rows += static_cast<char>(10 + y * width + x);
+        }
+    }
+    return rows;
+}
+
 QByteArray withWrongSum(QByteArray chunk)
 {
     chunk[chunk.size() - 1] = static_cast<char>(chunk.at(chunk.size() - 1) ^ 1);
@@ -98,6 +117,7 @@ private Q_SLOTS:
     void transparent();
     void superfluous_data();
     void superfluous();
+    void pixelsInSeveralChunks();
     void refused_data();
     void refused();
 
@@ -150,20 +170,19 @@ void PngImageTest::kinds()
     QCOMPARE(qRed(read.pixel(6, 4)), colourType == 3 ? 0x40 : 0);
 }
 
-// 3 by 2 pixels: the passes hold (0,0); none; none; (2,0); none; (1,0); row 1.
 void PngImageTest::interlaced()
 {
-    const QByteArray rows("\0\1"
-                          "\0\3"
-                          "\0\2"
-                          "\0\4\5\6",
-                          10);
-    const QImage read = VyPreviewImage::fromPng(pngOf(pngHeader(3, 2, 8, 0, 1) + pngPixels(rows)));
-    QCOMPARE(read.size(), QSize(3, 2));
-    for (int i = 0; i < 6; ++i)
-        QCOMPARE(qRed(read.pixel(i % 3, i / 3)), i + 1);
-    QVERIFY(VyPreviewImage::fromPng(pngOf(pngHeader(3, 2, 8, 0, 1) + pngPixels(rows.chopped(1))))
-                .isNull());
+    const QByteArray rows = interlacedRows(7, 5);
+    const QByteArray header = pngHeader(7, 5, 8, 0, 1);
+    const QImage read = VyPreviewImage::fromPng(pngOf(header + pngPixels(rows)));
+    QCOMPARE(read.size(), QSize(7, 5));
+    for (int i = 0; i < 7 * 5; ++i)
+        QCOMPARE(qRed(read.pixel(i % 7, i / 7)), 10 + i);
+    QVERIFY(VyPreviewImage::fromPng(pngOf(header + pngPixels(rows.chopped(1)))).isNull());
+    QCOMPARE(
+        VyPreviewImage::fromPng(pngOf(pngHeader(1, 1, 8, 0, 1) + pngPixels(interlacedRows(1, 1))))
+            .size(),
+        QSize(1, 1));
 }
 
 void PngImageTest::transparent()
@@ -194,6 +213,14 @@ void PngImageTest::superfluous()
 {
     QFETCH(QByteArray, chunks);
     const QByteArray png = grey(chunks + pngPixels(greyRows()) + pngChunk("tIME", "late"));
+    QCOMPARE(VyPreviewImage::fromPng(png).size(), QSize(4, 4));
+}
+
+void PngImageTest::pixelsInSeveralChunks()
+{
+    const QByteArray packed = qCompress(greyRows()).mid(4);
+    const QByteArray png = grey(pngChunk("IDAT", packed.left(5)) + pngChunk("IDAT", {}) +
+                                pngChunk("IDAT", packed.mid(5)));
     QCOMPARE(VyPreviewImage::fromPng(png).size(), QSize(4, 4));
 }
 
@@ -254,8 +281,10 @@ void PngImageTest::refused_data()
         << grey(pngPixels(greyRows() + QByteArray(30 * megabyte, 0)));
     QTest::newRow("bytes behind the packed pixels")
         << grey(pngChunk("IDAT", qCompress(greyRows()).mid(4) + "more"));
+    const QByteArray packed = qCompress(greyRows()).mid(4);
     QTest::newRow("pixels in two places")
-        << grey(pixels + pngChunk("tEXt", QByteArray("a\0b", 3)) + pixels);
+        << grey(pngChunk("IDAT", packed.left(5)) + pngChunk("tEXt", QByteArray("a\0b", 3)) +
+                pngChunk("IDAT", packed.mid(5)));
     QTest::newRow("filter 9") << grey(pngPixels('\x09' + greyRows().mid(1)));
     QTest::newRow("unknown chunk that is needed") << grey(pngChunk("ABCD", {}) + pixels);
     QTest::newRow("chunk length 0xFFFFFFFF") << grey(be32(0xFFFFFFFF) + "tEXt" + pixels);

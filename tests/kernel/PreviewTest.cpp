@@ -262,6 +262,7 @@ void PreviewTest::badPictureFile_data()
     const QByteArray jpeg = encoded(picture, "JPEG");
     const QByteArray bmp = encoded(picture, "BMP");
     QTest::newRow("JPEG cut") << jpeg.left(jpeg.size() / 2);
+    QTest::newRow("JPEG cut, with its end mark") << jpeg.left(jpeg.size() / 2) + jpeg.right(2);
     QTest::newRow("JPEG without its end") << jpeg.chopped(2);
     QByteArray damaged = jpeg;
     damaged.replace(jpeg.size() / 2, 40, QByteArray(40, '\xFF'));
@@ -270,6 +271,7 @@ void PreviewTest::badPictureFile_data()
         << QByteArray("\xFF\xD8\xFF\xE0").leftJustified(99, 0);
     QTest::newRow("JPEG too wide") << encoded(QImage(8193, 1, QImage::Format_RGB32), "JPEG");
     QTest::newRow("JPEG with 40 scans") << commented(jpeg, QByteArray("\xFF\xDA").repeated(40));
+    QTest::newRow("BMP's first bytes alone") << QByteArray("BM");
     QTest::newRow("BMP cut") << bmp.chopped(1);
     QTest::newRow("BMP's header alone") << QByteArray("BM").leftJustified(60, 0);
     QByteArray gap = bmp;

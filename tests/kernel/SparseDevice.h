@@ -28,10 +28,12 @@ public:
 
     qint64 size() const override { return m_size; }
     qint64 bytesRead() const { return m_bytesRead; }
+    qint64 largestRequest() const { return m_largestRequest; }
 
 protected:
     qint64 readData(char* data, qint64 length) override
     {
+        m_largestRequest = qMax(m_largestRequest, length);
         const qint64 start = pos();
         const qint64 count = qMax(qint64(0), qMin(length, m_readable - start));
         std::fill(data, data + count, '\0');
@@ -52,5 +54,6 @@ private:
     qint64 m_size;
     qint64 m_readable;
     qint64 m_bytesRead = 0;
+    qint64 m_largestRequest = 0;
     QMap<qint64, QByteArray> m_pieces;
 };

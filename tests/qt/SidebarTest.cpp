@@ -31,6 +31,7 @@ class SidebarTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { const QFileDialog once; } // Qt reads its settings only when complete
     void init();
 
     void addsThePlaces();
