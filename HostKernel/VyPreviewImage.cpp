@@ -10,7 +10,6 @@
 #include <QImageReader>
 #include <QtEndian>
 
-#include <atomic>
 #include <cstdlib>
 #include <mutex>
 
@@ -25,17 +24,17 @@ class DecoderMessages
 {
 public:
     DecoderMessages()
-        : m_lock(s_mutex)
+        : m_turn(s_turn)
     {
         s_count = &m_count;
-        // In two steps, as take() needs the handler before it: for a moment the
-        // messages of other threads go to Qt's own.
-        s_previous = qInstallMessageHandler(nullptr);
-        qInstallMessageHandler(take);
+        const std::lock_guard<std::mutex> lock(s_previousMutex);
+        const QtMessageHandler found = qInstallMessageHandler(take);
+        if (found != take) // put back by somebody who had found it here
+            s_previous = found;
     }
     ~DecoderMessages()
     {
-        const QtMessageHandler current = qInstallMessageHandler(s_previous);
+        const QtMessageHandler current = qInstallMessageHandler(previous());
         if (current != take) // somebody else's, installed meanwhile
             qInstallMessageHandler(current);
         s_count = nullptr;
@@ -50,20 +49,24 @@ private:
         if (s_count)
             ++*s_count;
         else
-            s_previous.load()(type, context, text);
+            previous()(type, context, text);
     }
 
-    static std::mutex s_mutex; // one handler at a time
-    static std::atomic<QtMessageHandler> s_previous;
-    static thread_local int* s_count;
+    // Waits for the moment between take() being installed and its predecessor known.
+    static QtMessageHandler previous()
+    {
+        const std::lock_guard<std::mutex> lock(s_previousMutex);
+        return s_previous;
+    }
 
-    std::lock_guard<std::mutex> m_lock;
+    static inline std::mutex s_turn; // one decoder at a time
+    static inline std::mutex s_previousMutex;
+    static inline QtMessageHandler s_previous = nullptr;
+    static inline thread_local int* s_count = nullptr; // the decoding thread's m_count
+
+    std::lock_guard<std::mutex> m_turn;
     int m_count = 0;
 };
-
-std::mutex DecoderMessages::s_mutex;
-std::atomic<QtMessageHandler> DecoderMessages::s_previous{nullptr};
-thread_local int* DecoderMessages::s_count = nullptr;
 
 // The picture, unless it has a pixel whose colour is none of the first \a colours
 // of its palette; 0 stands for a picture without palette.

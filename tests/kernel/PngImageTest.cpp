@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <thread>
 
 #include <unistd.h>
 
@@ -118,6 +119,7 @@ private Q_SLOTS:
     void superfluous_data();
     void superfluous();
     void pixelsInSeveralChunks();
+    void hostKeepsItsLog();
     void refused_data();
     void refused();
 
@@ -222,6 +224,30 @@ void PngImageTest::pixelsInSeveralChunks()
     const QByteArray png = grey(pngChunk("IDAT", packed.left(5)) + pngChunk("IDAT", {}) +
                                 pngChunk("IDAT", packed.mid(5)));
     QCOMPARE(VyPreviewImage::fromPng(png).size(), QSize(4, 4));
+}
+
+// Decoding keeps its own messages off the log, but nobody else's.
+void PngImageTest::hostKeepsItsLog()
+{
+    const QByteArray png = testPng(64, 64);
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([&png] {
+            for (int n = 0; n < 100; ++n)
+                VyPreviewImage::fromPng(png);
+        });
+    }
+    constexpr int count = 1000;
+    for (int i = 0; i < count; ++i)
+        qWarning("of the host");
+    for (std::thread& thread : threads)
+        thread.join();
+    qWarning("of the host");
+    const QStringList messages = m_log->messages();
+    m_log.reset();
+    m_log = std::make_unique<HostLog>();
+    QCOMPARE(messages.count(QStringLiteral("of the host")), count + 1);
+    QCOMPARE(messages.size(), count + 1);
 }
 
 void PngImageTest::refused_data()

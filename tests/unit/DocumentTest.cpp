@@ -94,12 +94,12 @@ void DocumentTest::forgetsADeletedView()
 
 void DocumentTest::leavesTheViewToTheHost()
 {
-    const QPointer<QWidget> view = new QWidget;
+    QWidget window;
+    const QPointer<QWidget> view = new QWidget(&window);
     {
         const CVyDocument document(view);
     }
     QVERIFY(view);
-    delete view;
 }
 
 QTEST_MAIN(DocumentTest)

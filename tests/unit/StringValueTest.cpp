@@ -58,6 +58,7 @@ private Q_SLOTS:
     void startsEmpty();
     void compares_data();
     void compares();
+    void comparesElements();
     void ignoresCase_data();
     void ignoresCase();
     void concatenates_data();
@@ -192,6 +193,13 @@ void StringValueTest::compares()
     QCOMPARE(CVyString(one) == CVyString(other), equal);
     QCOMPARE(CVyString(other) == CVyString(one), equal);
     QCOMPARE(CVyString(one) != CVyString(other), !equal);
+}
+
+// Equal strings have equal positions.
+void StringValueTest::comparesElements()
+{
+    QVERIFY(fromCharacters({0xd83d, 0xde00}) != fromCharacters({0x1f600}));
+    QVERIFY(fromCharacters({0x110000}) != fromCharacters({0xfffd}));
 }
 
 void StringValueTest::ignoresCase_data()
