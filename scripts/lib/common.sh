@@ -32,6 +32,6 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(cmake ninja-build g++ qtbase5-dev)
+build_packages=(cmake ninja-build g++ qtbase5-dev zlib1g-dev)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-dejavu-core)
-test_packages=(clang libclang-rt-dev llvm gcovr zlib1g-dev mandoc binutils qt5-gtk-platformtheme)
+test_packages=(clang libclang-rt-dev llvm gcovr mandoc binutils qt5-xdgdesktopportal-platformtheme)

@@ -231,6 +231,7 @@ void PngImageTest::hostKeepsItsLog()
 {
     const QByteArray png = testPng(64, 64);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&png] {
             for (int n = 0; n < 100; ++n)
