@@ -59,18 +59,26 @@ public:
 
     bool eventFilter(QObject* receiver, QEvent* event) override
     {
-        if (!isFromUser(event->type()) || !m_locked.contains(windowOf(receiver)))
+        if (!isFromUser(event->type()) || !isLocked(windowOf(receiver)))
             return false;
         event->ignore();
         return true;
     }
 
 private:
+    bool isLocked(QWindow* window) const { return window && m_locked.contains(window); }
+
+    // Shortcuts and actions receive events too; they belong to the window of
+    // their parent.
     static QWindow* windowOf(QObject* receiver)
     {
-        if (receiver->isWidgetType())
-            return static_cast<QWidget*>(receiver)->window()->windowHandle();
-        return receiver->isWindowType() ? static_cast<QWindow*>(receiver) : nullptr;
+        for (QObject* object = receiver; object; object = object->parent()) {
+            if (object->isWidgetType())
+                return static_cast<QWidget*>(object)->window()->windowHandle();
+            if (object->isWindowType())
+                return static_cast<QWindow*>(object);
+        }
+        return nullptr;
     }
 
     QVector<QPointer<QWindow>> m_locked;

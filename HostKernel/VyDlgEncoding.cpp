@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -43,6 +43,9 @@ QListWidget* codePageList(QWidget* parent)
                           .arg(CVyDlgEncoding::tr(page.description), QLatin1String(page.fileName)));
     }
     list->setCurrentRow(initialRow());
+    // Every name whole, beside the scroll bar.
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth()
+                          + list->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     return list;
 }
 

@@ -106,7 +106,9 @@ void FilterTest::parenthesesRows()
     QTest::newRow("closing before the words") << "A )x( b) "
                                               << "*.a"
                                               << "A )x";
-    QTest::newRow("closing before the words, blank stays") << "A )x (b)" << "*.a" << "A )x ";
+    QTest::newRow("closing before the words, blank stays") << "A )x (b)"
+                                                           << "*.a"
+                                                           << "A )x ";
     QTest::newRow("opening without a partner, blanks stay") << "A (b  "
                                                             << "*.a"
                                                             << "A (b  ";
@@ -217,7 +219,9 @@ void FilterTest::separatorRows()
     QTest::newRow("blanks in the patterns") << "A"
                                             << "*.a; *.b "
                                             << "A (*.a  *.b )";
-    QTest::newRow("blanks before patterns with parentheses") << "A  " << "*.(a)" << "A (*. (a))";
+    QTest::newRow("blanks before patterns with parentheses") << "A  "
+                                                             << "*.(a)"
+                                                             << "A (*. (a))";
     QTest::newRow("tab at the end") << "A\t"
                                     << "*.a"
                                     << "A (*.a)";
