@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HostLog.h"
+#include "QuietTest.h"
 #include "PreviewFiles.h"
 #include "VyPreviewImage.h"
 
@@ -32,19 +32,11 @@ QByteArray reversedRows(const Dib& dib)
 } // namespace
 
 /// Bitmaps as drawings store them, and as damage or malice would.
-class DibImageTest : public QObject
+class DibImageTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_log = std::make_unique<HostLog>(); }
-    void cleanup()
-    {
-        const QStringList messages = m_log->messages();
-        m_log.reset();
-        QCOMPARE(messages, QStringList());
-    }
-
     void soundBitmap_data();
     void soundBitmap();
     void runLengthPicture();
@@ -57,9 +49,6 @@ private Q_SLOTS:
     void incomplete();
     void badRuns_data();
     void badRuns();
-
-private:
-    std::unique_ptr<HostLog> m_log;
 };
 
 void DibImageTest::soundBitmap_data()

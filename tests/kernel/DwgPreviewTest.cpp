@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HostLog.h"
+#include "QuietTest.h"
 #include "PreviewFiles.h"
 #include "SparseDevice.h"
 #include "VyDwgPreview.h"
@@ -61,19 +61,11 @@ QImage read(QIODevice& device)
 } // namespace
 
 /// The preview section of DWG files, sound, odd and hostile.
-class DwgPreviewTest : public QObject
+class DwgPreviewTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_log = std::make_unique<HostLog>(); }
-    void cleanup()
-    {
-        const QStringList messages = m_log->messages();
-        m_log.reset();
-        QCOMPARE(messages, QStringList());
-    }
-
     void picture_data();
     void picture();
     void noPicture_data();
@@ -83,9 +75,6 @@ private Q_SLOTS:
     void fileCutWhileRead();
     void triesFourPictures();
     void triesNoPictureTwice();
-
-private:
-    std::unique_ptr<HostLog> m_log;
 };
 
 void DwgPreviewTest::picture_data()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HostLog.h"
+#include "QuietTest.h"
 #include "PreviewFiles.h"
 #include "SparseDevice.h"
 #include "VyDxfPreview.h"
@@ -42,19 +42,11 @@ QByteArray section()
 } // namespace
 
 /// The thumbnail section of text DXF files, sound, odd and hostile.
-class DxfPreviewTest : public QObject
+class DxfPreviewTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_log = std::make_unique<HostLog>(); }
-    void cleanup()
-    {
-        const QStringList messages = m_log->messages();
-        m_log.reset();
-        QCOMPARE(messages, QStringList());
-    }
-
     void picture_data();
     void picture();
     void noPicture_data();
@@ -62,9 +54,6 @@ private Q_SLOTS:
     void readsOnlyTheEnd_data();
     void readsOnlyTheEnd();
     void fileCutWhileRead();
-
-private:
-    std::unique_ptr<HostLog> m_log;
 };
 
 void DxfPreviewTest::picture_data()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HostLog.h"
+#include "QuietTest.h"
 #include "PreviewFiles.h"
 #include "VyPreviewImage.h"
 
@@ -97,19 +97,11 @@ private:
 } // namespace
 
 /// PNG files as drawings store them, and as damage or malice would.
-class PngImageTest : public QObject
+class PngImageTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_log = std::make_unique<HostLog>(); }
-    void cleanup()
-    {
-        const QStringList messages = m_log->messages();
-        m_log.reset();
-        QCOMPARE(messages, QStringList());
-    }
-
     void pixels();
     void palette();
     void kinds_data();
@@ -122,9 +114,6 @@ private Q_SLOTS:
     void hostKeepsItsLog();
     void refused_data();
     void refused();
-
-private:
-    std::unique_ptr<HostLog> m_log;
 };
 
 void PngImageTest::pixels()
@@ -244,9 +233,7 @@ void PngImageTest::hostKeepsItsLog()
     for (std::thread& thread : threads)
         thread.join();
     qWarning("of the host");
-    const QStringList messages = m_log->messages();
-    m_log.reset();
-    m_log = std::make_unique<HostLog>();
+    const QStringList messages = takeMessages();
     QCOMPARE(messages.count(QStringLiteral("of the host")), count + 1);
     QCOMPARE(messages.size(), count + 1);
 }
