@@ -108,6 +108,7 @@ void CVyFileDialogQtNew::HandleDialogInitialization()
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setPopupMode(QToolButton::MenuButtonPopup);
     button->setText(QCoreApplication::translate(context, "&Open"));
+    button->setAccessibleName(QCoreApplication::translate(context, "Open"));
     if (QDialogButtonBox* box = buttonBox(m_widget))
         replaceOpenButton(box, button);
 

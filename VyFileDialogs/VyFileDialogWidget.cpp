@@ -50,8 +50,8 @@ CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner
 
 CVyFileDialogWidget::~CVyFileDialogWidget()
 {
-    if (!m_keptPlaces.isEmpty())
-        setSidebarUrls(m_keptPlaces);
+    if (m_keptPlaces)
+        setSidebarUrls(*m_keptPlaces);
     if (m_loop)
         m_loop->quit();
 }
@@ -92,7 +92,7 @@ void CVyFileDialogWidget::onDone()
 void CVyFileDialogWidget::addPlaces(const QList<QUrl>& places)
 {
     m_keptPlaces = sidebarUrls();
-    setSidebarUrls(m_keptPlaces + places);
+    setSidebarUrls(*m_keptPlaces + places);
 }
 
 // Takes the layout of Qt's dialog away to a widget of its own, so that there is

@@ -9,6 +9,8 @@
 #include <QFileDialog>
 #include <QPointer>
 
+#include <optional>
+
 class CVyFileDialogQt;
 class QFileSystemModel;
 class QHBoxLayout;
@@ -87,6 +89,6 @@ private:
 
     QFileSystemModel* m_model = nullptr; ///< the dialog's own
     QString m_shownFolder;               ///< what the row was last laid out for
-    QList<QUrl> m_keptPlaces;            ///< the sidebar without addPlaces()
+    std::optional<QList<QUrl>> m_keptPlaces; ///< the sidebar before addPlaces()
     QPointer<QEventLoop> m_loop;         ///< while exec() runs
 };

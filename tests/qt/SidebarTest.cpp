@@ -41,6 +41,7 @@ private Q_SLOTS:
     void neverPersistsAfterAnException();
     void neverPersistsWhenTheParentGoes();
     void keepsTheUsersOwnPlaces();
+    void keepsAnEmptySidebar();
 
 private:
     DrawingFolder m_mine;
@@ -140,6 +141,14 @@ void SidebarTest::keepsTheUsersOwnPlaces()
         dialog.reject();
     })});
     QVERIFY(savedPlaces().contains(urlOf(m_mine.path()).toString()));
+}
+
+void SidebarTest::keepsAnEmptySidebar()
+{
+    QSettings(QSettings::UserScope, QStringLiteral("QtProject"))
+        .setValue(QStringLiteral("FileDialog/shortcuts"), QStringList());
+    HostRequest().getFileName({onFileDialog([](QFileDialog& dialog) { dialog.reject(); })});
+    QCOMPARE(savedPlaces(), QStringList());
 }
 
 int main(int argc, char** argv)
