@@ -180,6 +180,11 @@ void PathBarTest::writesInOneLine_data()
                          << "a b";
     QTest::newRow("vertical tab and form feed") << "a\vb\fc"
                                                 << "a b c";
+    QTest::newRow("other control characters")
+        << QStringLiteral("a\u0001b\u001bc\u007fd\u0085e") << "a b c d e";
+    QTest::newRow("zero") << QString("a" + QString(QChar()) + "b") << "a b";
+    QTest::newRow("line separator") << QStringLiteral("a\u2028b") << "a b";
+    QTest::newRow("paragraph separator") << QStringLiteral("a\u2029b") << "a b";
     QTest::newRow("at the ends") << "\na\n"
                                  << " a ";
     QTest::newRow("line end alone") << "\n"
@@ -192,6 +197,10 @@ void PathBarTest::writesInOneLine_data()
                                      << "a\\nb";
     QTest::newRow("no-break space stays")
         << QStringLiteral("a\u00a0b") << QStringLiteral("a\u00a0b");
+    QTest::newRow("zero width joiner stays")
+        << QStringLiteral("a\u200db") << QStringLiteral("a\u200db");
+    QTest::newRow("beyond the basic plane stays")
+        << QStringLiteral("\U0001F600") << QStringLiteral("\U0001F600");
     QTest::newRow("Cyrillic stays") << QStringLiteral("Чертежи") << QStringLiteral("Чертежи");
 }
 

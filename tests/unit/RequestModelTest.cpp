@@ -120,7 +120,8 @@ void RequestModelTest::translatesTheMode_data()
     newRows();
     QTest::newRow("save") << 0x4U << 1 << 2 << 0x10000U;
     QTest::newRow("new and save") << 0x5U << 1 << 2 << 0x10000U;
-    QTest::newRow("save with qualifiers") << 0x704U << 1 << 2 << 0x10000U;
+    QTest::newRow("save and another kind") << 0xcU << 1 << 2 << 0x10000U;
+    QTest::newRow("save, with qualifiers") << 0x704U << 1 << 2 << 0x10000U;
     QTest::newRow("no kind") << 0x0U << 1 << 2 << untouched;
     QTest::newRow("qualifiers alone") << 0x700U << 1 << 2 << untouched;
     QTest::newRow("another kind") << 0x8U << 1 << 2 << untouched;
@@ -138,6 +139,7 @@ void RequestModelTest::openRows()
     QTest::newRow("open and save") << 0x6U << 0 << 2 << 0x100U;
     QTest::newRow("open and save, read-only") << 0x6U << 1 << 2 << 0x300U;
     QTest::newRow("all three") << 0x7U << 1 << 2 << 0x300U;
+    QTest::newRow("open and another kind") << 0xaU << 1 << 2 << 0x300U;
     QTest::newRow("open, with qualifiers") << 0x702U << 1 << 2 << 0x300U;
     QTest::newRow("every bit") << 0xffffffffU << 1 << 2 << 0x300U;
 }
@@ -150,6 +152,7 @@ void RequestModelTest::newRows()
     QTest::newRow("new, unknown mode") << 0x1U << 1 << 5 << 0x1U;
     QTest::newRow("new, negative mode") << 0x1U << 1 << -1 << 0x1U;
     QTest::newRow("new, with qualifiers") << 0x701U << 1 << 2 << 0x3U;
+    QTest::newRow("new and another kind") << 0x9U << 1 << 2 << 0x3U;
 }
 
 void RequestModelTest::translatesTheMode()

@@ -90,6 +90,7 @@ void StartPathTest::sameForBoth_data()
     QTest::addColumn<QStringList>("presets");
 
     QTest::newRow("empty") << "" << QStringList();
+    QTest::newRow("zero inside") << QString("@/here" + QString(QChar())) << QStringList();
     QTest::newRow("pipe") << "@/pipe" << QStringList();
     QTest::newRow("device") << "/dev/null" << QStringList();
     folderRows();
