@@ -51,7 +51,8 @@ finish() {
     wait_until 'the end of the dialog' 60 dialog_has_ended || fail 'the dialog is still open'
     wait "$dialog" || status=$?
     answer=$(cat "$out/answer")
-    expect 'what is said on standard error' "$(cat "$out/errors")" ''
+    # Qt mentions windows that have gone before it asked the server about them.
+    expect 'what is said on standard error' "$(grep -v 'QXcbConnection: XCB error' "$out/errors")" ''
 }
 
 dialog_has_ended() { ! kill -0 "$dialog" 2>/dev/null; }
