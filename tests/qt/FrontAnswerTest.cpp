@@ -152,6 +152,7 @@ void FrontAnswerTest::completesTheExtension_data()
     QTest::newRow("one of several") << save << 1 << "/d/plan.dwg" << "/d/plan.dwg.dwg;dxf";
     QTest::newRow("all of several") << save << 1 << "/d/plan.dwg;dxf" << "/d/plan.dwg;dxf";
     QTest::newRow("type without extension") << save << 2 << "/d/plan" << "/d/plan";
+    QTest::newRow("type without extension, name with one") << save << 2 << "/d/plan.dwg" << "/d/plan.dwg.";
     QTest::newRow("double extension") << save << 3 << "/d/plan" << "/d/plan.tar.gz";
     QTest::newRow("double extension is never a suffix")
         << save << 3 << "/d/plan.tar.gz" << "/d/plan.tar.gz.tar.gz";
