@@ -11,7 +11,8 @@
 ///
 /// Source: Open Design Specification for .dwg files, version 5.4.1, section
 /// "DWGCODEPAGE"; DXF Reference, "HEADER section".
-enum class OdCodePageId : int {
+enum class OdCodePageId : int
+{
     Undefined = 0,
     Ascii = 1,
     Iso8859_1 = 2,
@@ -63,8 +64,9 @@ enum class OdCodePageId : int {
 struct CVyCodePage
 {
     OdCodePageId id;
-    const char* fileName;    ///< as drawings declare it, for example "ANSI_1252"
-    const char* description; ///< what a drafter calls it, English, UTF-8; the key of its translation
+    const char* fileName; ///< as drawings declare it, for example "ANSI_1252"
+    const char*
+        description; ///< what a drafter calls it, English, UTF-8; the key of its translation
 };
 
 /// Every code page but OdCodePageId::Undefined, in the order of the numbers.

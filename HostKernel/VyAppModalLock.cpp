@@ -86,8 +86,8 @@ private:
 
 bool hasWindows()
 {
-    return qobject_cast<QApplication*>(QCoreApplication::instance())
-           && QThread::currentThread() == qApp->thread();
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) &&
+           QThread::currentThread() == qApp->thread();
 }
 
 } // namespace

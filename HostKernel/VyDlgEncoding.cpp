@@ -44,8 +44,8 @@ QListWidget* codePageList(QWidget* parent)
     }
     list->setCurrentRow(initialRow());
     // Every name whole, beside the scroll bar.
-    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth()
-                          + list->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                          list->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     return list;
 }
 

@@ -78,7 +78,8 @@ std::vector<CVyString> CVyString::SplitA(char separator) const
 
 int CVyString::findA(const char* text, int from) const
 {
-    return static_cast<int>(m_text.find(fixedText(text), static_cast<std::size_t>(std::max(from, 0))));
+    return static_cast<int>(
+        m_text.find(fixedText(text), static_cast<std::size_t>(std::max(from, 0))));
 }
 
 int CVyString::reverseFindA(const char* text) const
@@ -102,7 +103,9 @@ CVyString CVyString::mid(int first, int count) const
 
 CVyString& CVyString::trimRight()
 {
-    const auto isText = [](wchar_t character) { return !QChar::isSpace(static_cast<uint>(character)); };
+    const auto isText = [](wchar_t character) {
+        return !QChar::isSpace(static_cast<uint>(character));
+    };
     m_text.erase(std::find_if(m_text.rbegin(), m_text.rend(), isText).base(), m_text.end());
     return *this;
 }

@@ -48,7 +48,7 @@ public:
     /// count gives none.
     CVyString left(int count) const;
     /// \a count characters from \a first on, or those that there are; a
-    /// negative count means up to the end.
+    /// negative count means up to the end, a negative \a first the beginning.
     CVyString mid(int first, int count = -1) const;
 
     /// Removes white space (Unicode's) from the end.

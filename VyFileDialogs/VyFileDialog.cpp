@@ -83,8 +83,8 @@ void completeExtension(CVyString& path, const Request& request)
 {
     if (!request.typeIndex || *request.typeIndex < 0)
         return;
-    const std::vector<CVyString> lists
-        = VyFileTypeList::extensionLists(CVyUtils::ConvertToQtFilter(request.filter));
+    const std::vector<CVyString> lists =
+        VyFileTypeList::extensionLists(CVyUtils::ConvertToQtFilter(request.filter));
     const auto position = static_cast<std::size_t>(*request.typeIndex);
     if (position >= lists.size())
         return;
@@ -173,8 +173,8 @@ int CVyFileDialog::GetFileName(CVyUserIO::_FileNameRetVal* mode, CVyString* path
                                int* typeIndex, CVyString* templateName,
                                CVyUserIO::_FileNameFlags flags, OdCodePageId** codePage)
 {
-    const Request request{mode,        type,      title,        defaultExtension, filter,
-                          defaultPath, typeIndex, templateName, flags,            codePage};
+    const Request request{mode,      type,         title, defaultExtension, filter, defaultPath,
+                          typeIndex, templateName, flags, codePage};
     const Impl impl = path ? createImpl(request, false) : nullptr;
     if (!impl)
         return VyStatus::Failed;
@@ -209,8 +209,8 @@ int CVyFileDialog::GetFileNames(CVyUserIO::_FileNameRetVal* mode, std::vector<CV
                                 int* typeIndex, CVyString* templateName,
                                 CVyUserIO::_FileNameFlags flags, OdCodePageId** codePage)
 {
-    const Request request{mode,        type,      title,        defaultExtension, filter,
-                          defaultPath, typeIndex, templateName, flags,            codePage};
+    const Request request{mode,      type,         title, defaultExtension, filter, defaultPath,
+                          typeIndex, templateName, flags, codePage};
     const Impl impl = paths ? createImpl(request, true) : nullptr;
     if (!impl)
         return VyStatus::Failed;

@@ -30,7 +30,8 @@ class CVyFileDialog
 {
 public:
     /// Which back-end serves the requests. Any other value serves none.
-    enum _Style : int {
+    enum _Style : int
+    {
         StyleQt = 2,     ///< the Qt dialog
         StyleNative = 3, ///< the operating system's panels
     };

@@ -20,8 +20,8 @@ namespace {
 // A widget outside the thread of a QApplication would end the host.
 bool canShowWidgets()
 {
-    return qobject_cast<QApplication*>(QCoreApplication::instance())
-           && QThread::currentThread() == qApp->thread();
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) &&
+           QThread::currentThread() == qApp->thread();
 }
 
 QWidget* activeView()
@@ -109,8 +109,8 @@ int CVyFileDialogQt::setDefaultFileName(const CVyString& name)
 
 int CVyFileDialogQt::setFileTypes(const CVyString& filter)
 {
-    const VyFileTypeList::Types types
-        = VyFileTypeList::fromConverted(CVyUtils::ConvertToQtFilter(filter));
+    const VyFileTypeList::Types types =
+        VyFileTypeList::fromConverted(CVyUtils::ConvertToQtFilter(filter));
     m_qtFilter = types.qtFilter;
     m_extensionLists = types.extensionLists;
     return VyStatus::Accepted;

@@ -87,8 +87,8 @@ private:
     CVyFileDialogPreview* m_preview = nullptr;
     QWidget* m_previewFrame = nullptr;
 
-    QFileSystemModel* m_model = nullptr; ///< the dialog's own
-    QString m_shownFolder;               ///< what the row was last laid out for
+    QFileSystemModel* m_model = nullptr;     ///< the dialog's own
+    QString m_shownFolder;                   ///< what the row was last laid out for
     std::optional<QList<QUrl>> m_keptPlaces; ///< the sidebar before addPlaces()
-    QPointer<QEventLoop> m_loop;         ///< while exec() runs
+    QPointer<QEventLoop> m_loop;             ///< while exec() runs
 };

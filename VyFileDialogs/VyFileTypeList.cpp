@@ -11,7 +11,7 @@ namespace {
 
 // Calls visit(entry, patterns) for each pair of a converted filter; a field
 // without a partner is no pair.
-template<typename Visitor>
+template <typename Visitor>
 void forEachPair(const CVyString& converted, Visitor visit)
 {
     const std::vector<CVyString> fields = converted.SplitA('&');
@@ -93,8 +93,8 @@ int indexOf(const CVyString& qtFilter, const CVyString& selected)
 QString nameForType(const QDir& folder, const QString& typedName, const QStringList& extensions)
 {
     const QFileInfo file(folder.absoluteFilePath(typedName));
-    if (extensions.isEmpty() || file.isDir()
-        || extensions.contains(file.suffix(), Qt::CaseInsensitive))
+    if (extensions.isEmpty() || file.isDir() ||
+        extensions.contains(file.suffix(), Qt::CaseInsensitive))
         return typedName;
     return file.completeBaseName() + QLatin1Char('.') + extensions.constFirst();
 }

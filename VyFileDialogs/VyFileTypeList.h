@@ -62,9 +62,10 @@ CVyString entryAt(const CVyString& qtFilter, int index);
 int indexOf(const CVyString& qtFilter, const CVyString& selected);
 
 /// The name to show when \a typedName, in \a folder, gets a type with
-/// \a extensions: its complete base name with the first of them. A name that has
-/// one of them already, in whatever case, stays, as do the names of existing
-/// folders and all names when the type has no extensions.
+/// \a extensions: its complete base name with the first of them. A name whose
+/// suffix, what follows its last ".", is one of them in whatever case stays, as
+/// do the names of existing folders and all names when the type has no
+/// extensions.
 QString nameForType(const QDir& folder, const QString& typedName, const QStringList& extensions);
 
 } // namespace VyFileTypeList

@@ -18,7 +18,8 @@ QStringList parts(const QString& path)
 int staying(const QStringList& names, const QStringList& parts)
 {
     const int common = std::min(names.size(), parts.size());
-    const auto differing = std::mismatch(names.begin(), names.begin() + common, parts.begin()).first;
+    const auto differing =
+        std::mismatch(names.begin(), names.begin() + common, parts.begin()).first;
     const int same = static_cast<int>(differing - names.begin());
     return same < common ? same : names.size();
 }
@@ -38,8 +39,8 @@ QString singleLine(const QString& name)
     QString line = name;
     for (QChar& character : line) {
         const QChar::Category category = character.category();
-        if (category == QChar::Other_Control || category == QChar::Separator_Line
-            || category == QChar::Separator_Paragraph)
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph)
             character = QLatin1Char(' ');
     }
     return line;

@@ -33,7 +33,7 @@ std::vector<Preset> missingPath(const QFileInfo& info)
 std::vector<Preset> presets(const QString& path, Request request)
 {
     if (path.isEmpty() || path.contains(QChar(QChar::Null)))
-        return {}; // no path; QFileInfo would warn about it on the host's log
+        return {}; // no path; about a zero QFileInfo would warn on the host's log
     const QFileInfo info(QDir::toNativeSeparators(QDir::cleanPath(path)));
     if (!info.exists())
         return missingPath(info);

@@ -10,7 +10,11 @@
 /// How a request's start path presets a dialog.
 namespace VyStartPath {
 
-enum class Request { SingleFile, MultipleFiles };
+enum class Request
+{
+    SingleFile,
+    MultipleFiles
+};
 
 /// One setter to call, with its value in native separators.
 struct Preset

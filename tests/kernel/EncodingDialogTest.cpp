@@ -97,11 +97,16 @@ void EncodingDialogTest::namesTheFile_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("path") << "/plans/gear.dwg" << "gear.dwg";
-    QTest::newRow("several") << "Multiple files" << "Multiple files";
-    QTest::newRow("none") << "" << "";
-    QTest::newRow("ampersand") << "/plans/R&D.dwg" << "R&D.dwg";
-    QTest::newRow("markup") << "/plans/<b>x.dwg" << "<b>x.dwg";
+    QTest::newRow("path") << "/plans/gear.dwg"
+                          << "gear.dwg";
+    QTest::newRow("several") << "Multiple files"
+                             << "Multiple files";
+    QTest::newRow("none") << ""
+                          << "";
+    QTest::newRow("ampersand") << "/plans/R&D.dwg"
+                               << "R&D.dwg";
+    QTest::newRow("markup") << "/plans/<b>x.dwg"
+                            << "<b>x.dwg";
 }
 
 void EncodingDialogTest::namesTheFile()

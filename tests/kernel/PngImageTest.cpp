@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "QuietTest.h"
 #include "PreviewFiles.h"
+#include "QuietTest.h"
 #include "VyPreviewImage.h"
 
 #include <QTemporaryFile>

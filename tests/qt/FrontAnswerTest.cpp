@@ -18,7 +18,8 @@ using FakeFamily::script;
 namespace {
 
 // Works the encoding dialog: its page, its check box, and Ok or Cancel.
-DialogDriver::Step onEncodingDialog(int row, bool readOnly, bool accept, QString* shownName = nullptr)
+DialogDriver::Step onEncodingDialog(int row, bool readOnly, bool accept,
+                                    QString* shownName = nullptr)
 {
     return [=](QDialog& dialog) {
         if (shownName)
@@ -143,26 +144,44 @@ void FrontAnswerTest::completesTheExtension_data()
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<QString>("saved");
     const unsigned save = CVyUserIO::FileNameSave;
-    QTest::newRow("no extension") << save << 0 << "/d/plan" << "/d/plan.dwg";
-    QTest::newRow("its extension") << save << 0 << "/d/plan.dwg" << "/d/plan.dwg";
-    QTest::newRow("in upper case") << save << 0 << "/d/plan.DWG" << "/d/plan.DWG";
-    QTest::newRow("another extension") << save << 0 << "/d/plan.dxf" << "/d/plan.dxf.dwg";
-    QTest::newRow("folder with a dot") << save << 0 << "/d.dwg/plan" << "/d.dwg/plan.dwg";
-    QTest::newRow("several extensions") << save << 1 << "/d/plan" << "/d/plan.dwg;dxf";
-    QTest::newRow("one of several") << save << 1 << "/d/plan.dwg" << "/d/plan.dwg.dwg;dxf";
-    QTest::newRow("all of several") << save << 1 << "/d/plan.dwg;dxf" << "/d/plan.dwg;dxf";
-    QTest::newRow("type without extension") << save << 2 << "/d/plan" << "/d/plan";
-    QTest::newRow("type without extension, name with one") << save << 2 << "/d/plan.dwg" << "/d/plan.dwg.";
-    QTest::newRow("double extension") << save << 3 << "/d/plan" << "/d/plan.tar.gz";
-    QTest::newRow("double extension is never a suffix")
-        << save << 3 << "/d/plan.tar.gz" << "/d/plan.tar.gz.tar.gz";
-    QTest::newRow("index behind the list") << save << 5 << "/d/plan" << "/d/plan";
-    QTest::newRow("largest index") << save << INT_MAX << "/d/plan" << "/d/plan";
-    QTest::newRow("negative index") << save << -1 << "/d/plan" << "/d/plan";
-    QTest::newRow("smallest index") << save << INT_MIN << "/d/plan" << "/d/plan";
-    QTest::newRow("save with a qualifier") << 0x104U << 0 << "/d/plan" << "/d/plan";
-    QTest::newRow("open") << 0x2U << 0 << "/d/plan" << "/d/plan";
-    QTest::newRow("new") << 0x1U << 0 << "/d/plan" << "/d/plan";
+    QTest::newRow("no extension") << save << 0 << "/d/plan"
+                                  << "/d/plan.dwg";
+    QTest::newRow("its extension") << save << 0 << "/d/plan.dwg"
+                                   << "/d/plan.dwg";
+    QTest::newRow("in upper case") << save << 0 << "/d/plan.DWG"
+                                   << "/d/plan.DWG";
+    QTest::newRow("another extension") << save << 0 << "/d/plan.dxf"
+                                       << "/d/plan.dxf.dwg";
+    QTest::newRow("folder with a dot") << save << 0 << "/d.dwg/plan"
+                                       << "/d.dwg/plan.dwg";
+    QTest::newRow("several extensions") << save << 1 << "/d/plan"
+                                        << "/d/plan.dwg;dxf";
+    QTest::newRow("one of several") << save << 1 << "/d/plan.dwg"
+                                    << "/d/plan.dwg.dwg;dxf";
+    QTest::newRow("all of several") << save << 1 << "/d/plan.dwg;dxf"
+                                    << "/d/plan.dwg;dxf";
+    QTest::newRow("type without extension") << save << 2 << "/d/plan"
+                                            << "/d/plan";
+    QTest::newRow("type without extension, name with one") << save << 2 << "/d/plan.dwg"
+                                                           << "/d/plan.dwg.";
+    QTest::newRow("double extension") << save << 3 << "/d/plan"
+                                      << "/d/plan.tar.gz";
+    QTest::newRow("double extension is never a suffix") << save << 3 << "/d/plan.tar.gz"
+                                                        << "/d/plan.tar.gz.tar.gz";
+    QTest::newRow("index behind the list") << save << 5 << "/d/plan"
+                                           << "/d/plan";
+    QTest::newRow("largest index") << save << INT_MAX << "/d/plan"
+                                   << "/d/plan";
+    QTest::newRow("negative index") << save << -1 << "/d/plan"
+                                    << "/d/plan";
+    QTest::newRow("smallest index") << save << INT_MIN << "/d/plan"
+                                    << "/d/plan";
+    QTest::newRow("save with a qualifier") << 0x104U << 0 << "/d/plan"
+                                           << "/d/plan";
+    QTest::newRow("open") << 0x2U << 0 << "/d/plan"
+                          << "/d/plan";
+    QTest::newRow("new") << 0x1U << 0 << "/d/plan"
+                         << "/d/plan";
 }
 
 void FrontAnswerTest::completesTheExtension()
@@ -270,7 +289,8 @@ void FrontAnswerTest::encodingDialogNamesTheFiles_data()
     const QString two = QStringLiteral("/d/two.dwg");
     QTest::newRow("one") << QStringList() << QStringList{one} << "one.dwg";
     QTest::newRow("two") << QStringList() << QStringList{one, two} << "Multiple files";
-    QTest::newRow("one behind the caller's") << QStringList{two} << QStringList{one} << "Multiple files";
+    QTest::newRow("one behind the caller's")
+        << QStringList{two} << QStringList{one} << "Multiple files";
     QTest::newRow("none") << QStringList() << QStringList() << "";
     QTest::newRow("none behind the caller's") << QStringList{two} << QStringList() << "two.dwg";
 }
@@ -296,8 +316,9 @@ void FrontAnswerTest::encodingWithoutOutputs()
     const DialogDriver driver({onEncodingDialog(0, true, true)});
     const CVyString text;
     CVyString path;
-    QCOMPARE(CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text, text,
-                                        text, nullptr, nullptr, CVyUserIO::FileNameNoFlags, nullptr),
+    QCOMPARE(CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text,
+                                        text, text, nullptr, nullptr, CVyUserIO::FileNameNoFlags,
+                                        nullptr),
              VyStatus::Accepted);
     QCOMPARE(QString(path), QStringLiteral("/d/plan.dwg"));
 }

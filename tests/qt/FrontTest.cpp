@@ -79,11 +79,13 @@ void FrontTest::nullOutputFails()
 {
     auto mode = HostRequest::untouchedMode();
     const CVyString text;
-    QCOMPARE(CVyFileDialog::GetFileName(&mode, nullptr, 0, CVyUserIO::FileNameOpen, text, text, text,
-                                        text, nullptr, nullptr, CVyUserIO::FileNameNoFlags, nullptr),
+    QCOMPARE(CVyFileDialog::GetFileName(&mode, nullptr, 0, CVyUserIO::FileNameOpen, text, text,
+                                        text, text, nullptr, nullptr, CVyUserIO::FileNameNoFlags,
+                                        nullptr),
              VyStatus::Failed);
-    QCOMPARE(CVyFileDialog::GetFileNames(&mode, nullptr, 0, CVyUserIO::FileNameOpen, text, text, text,
-                                         text, nullptr, nullptr, CVyUserIO::FileNameNoFlags, nullptr),
+    QCOMPARE(CVyFileDialog::GetFileNames(&mode, nullptr, 0, CVyUserIO::FileNameOpen, text, text,
+                                         text, text, nullptr, nullptr, CVyUserIO::FileNameNoFlags,
+                                         nullptr),
              VyStatus::Failed);
     QCOMPARE(mode, HostRequest::untouchedMode());
     QVERIFY(calls().isEmpty());
@@ -101,7 +103,8 @@ void FrontTest::choosesTheFamily_data()
     QTest::newRow("native, one") << 3 << 0x4U << 1U << false << "createMac(4,0,1)";
     QTest::newRow("native, several") << 3 << 0x1U << 1U << true << "createMac(1,1,1)";
     QTest::newRow("qualifiers go along") << 2 << 0x702U << 1U << false << "createQt(702,0,1)";
-    QTest::newRow("other flags are ignored") << 2 << 0x2U << 0xfffffffeU << false << "createQt(2,0,0)";
+    QTest::newRow("other flags are ignored")
+        << 2 << 0x2U << 0xfffffffeU << false << "createQt(2,0,0)";
     QTest::newRow("one of many flags") << 2 << 0x2U << 0xffffffffU << false << "createQt(2,0,1)";
 }
 
@@ -133,13 +136,12 @@ void FrontTest::callsInOrder()
     request.parent = 77;
     script().results = QStringList{QStringLiteral("/x.dwg")};
     request.getFileName({});
-    QCOMPARE(calls(), (QStringList{
-                          "createQt(2,0,0)", "setTitle(Title)", "setDefaultExtension(dwg)",
-                          "setFileTypes(A&*.a)", "setDefaultFolder(" + folder.path() + ")",
-                          "setDefaultFileName(missing.dwg)", "setFileTypeIndex(5)",
-                          "setDefaultTemplateName(iso.dwt)", "show(77)", "getResult",
-                          "getFileTypeIndex", "getTemplateName", "getOpenMode", "getOpenMode",
-                          "delete"}));
+    QCOMPARE(calls(), (QStringList{"createQt(2,0,0)", "setTitle(Title)", "setDefaultExtension(dwg)",
+                                   "setFileTypes(A&*.a)", "setDefaultFolder(" + folder.path() + ")",
+                                   "setDefaultFileName(missing.dwg)", "setFileTypeIndex(5)",
+                                   "setDefaultTemplateName(iso.dwt)", "show(77)", "getResult",
+                                   "getFileTypeIndex", "getTemplateName", "getOpenMode",
+                                   "getOpenMode", "delete"}));
 }
 
 void FrontTest::callsInOrderForSeveral()

@@ -211,9 +211,9 @@ void LifetimeTest::refusesWithoutItsThread()
     std::unique_ptr<QThread> thread(QThread::create([&] {
         CVyString path;
         const CVyString text;
-        status = CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text,
-                                            text, text, nullptr, nullptr,
-                                            CVyUserIO::FileNameNoFlags, nullptr);
+        status =
+            CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text, text,
+                                       text, nullptr, nullptr, CVyUserIO::FileNameNoFlags, nullptr);
     }));
     thread->start();
     QVERIFY(thread->wait(5000));

@@ -150,7 +150,8 @@ void NewDialogTest::entries_data()
     QTest::newRow("template") << "Open" << true << 1U << true;
     QTest::newRow("imperial") << "Open with no Template - Imperial" << false << 2U << false;
     QTest::newRow("metric") << "Open with no Template - Metric" << false << 3U << false;
-    QTest::newRow("metric beside a selection") << "Open with no Template - Metric" << true << 3U << true;
+    QTest::newRow("metric beside a selection")
+        << "Open with no Template - Metric" << true << 3U << true;
 }
 
 void NewDialogTest::entries()
@@ -191,7 +192,8 @@ void NewDialogTest::openNeedsATemplate()
 void NewDialogTest::returnNeverCancels_data()
 {
     QTest::addColumn<QString>("focused");
-    for (const char* name : {"fileNameEdit", "listView", "treeView", "fileTypeCombo", "lookInCombo"})
+    for (const char* name :
+         {"fileNameEdit", "listView", "treeView", "fileTypeCombo", "lookInCombo"})
         QTest::newRow(name) << name;
 }
 
@@ -204,7 +206,7 @@ void NewDialogTest::returnNeverCancels()
     request.start = folder.path();
     request.getFileName({onFileDialog([&](QFileDialog& dialog) {
         dialog.setViewMode(focused == QLatin1String("treeView") ? QFileDialog::Detail
-                                                                 : QFileDialog::List);
+                                                                : QFileDialog::List);
         QVERIFY(clickFile(dialog, "iso.dwt"));
         auto* widget = dialog.findChild<QWidget*>(focused);
         widget->setFocus();
@@ -221,12 +223,18 @@ void NewDialogTest::typeChangeAdaptsTheName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("another extension") << "plan.txt" << "plan.dwg";
-    QTest::newRow("second extension, upper case") << "plan.DXF" << "plan.DXF";
-    QTest::newRow("double extension") << "archive.tar.gz" << "archive.tar.dwg";
-    QTest::newRow("no extension") << "plan" << "plan.dwg";
-    QTest::newRow("existing folder") << "folder.txt" << "folder.txt";
-    QTest::newRow("nothing") << "" << "";
+    QTest::newRow("another extension") << "plan.txt"
+                                       << "plan.dwg";
+    QTest::newRow("second extension, upper case") << "plan.DXF"
+                                                  << "plan.DXF";
+    QTest::newRow("double extension") << "archive.tar.gz"
+                                      << "archive.tar.dwg";
+    QTest::newRow("no extension") << "plan"
+                                  << "plan.dwg";
+    QTest::newRow("existing folder") << "folder.txt"
+                                     << "folder.txt";
+    QTest::newRow("nothing") << ""
+                             << "";
 }
 
 void NewDialogTest::typeChangeAdaptsTheName()

@@ -150,16 +150,15 @@ void OpenDialogTest::encodingEndToEnd()
     HostRequest request;
     request.flags = CVyUserIO::FileNameModeChoices;
     request.start = folder.path();
-    request.getFileName(
-        {onFileDialog([&](QFileDialog& dialog) {
-             QVERIFY(clickFile(dialog, "plan.dwg"));
-             openButton(dialog)->menu()->actions().at(2)->trigger();
-         }),
-         [](QDialog& dialog) {
-             auto* pages = dialog.findChild<QListWidget*>();
-             pages->setCurrentRow(pages->count() - 1);
-             dialog.accept();
-         }});
+    request.getFileName({onFileDialog([&](QFileDialog& dialog) {
+                             QVERIFY(clickFile(dialog, "plan.dwg"));
+                             openButton(dialog)->menu()->actions().at(2)->trigger();
+                         }),
+                         [](QDialog& dialog) {
+                             auto* pages = dialog.findChild<QListWidget*>();
+                             pages->setCurrentRow(pages->count() - 1);
+                             dialog.accept();
+                         }});
     QCOMPARE(request.status, VyStatus::Accepted);
     QCOMPARE(request.mode, CVyUserIO::Open);
     QCOMPARE(request.paths, QStringList{plan});
@@ -280,11 +279,16 @@ void OpenDialogTest::startPath_data()
     QTest::addColumn<bool>("several");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("name");
-    QTest::newRow("folder") << "sub" << false << "sub" << "";
-    QTest::newRow("folder with a trailing separator") << "sub/" << false << "sub" << "";
-    QTest::newRow("file") << "sub/plan.dwg" << false << "sub" << "plan.dwg";
-    QTest::newRow("file, several") << "sub/plan.dwg" << true << "sub" << "plan.dwg";
-    QTest::newRow("missing file") << "sub/new.dwg" << false << "sub" << "new.dwg";
+    QTest::newRow("folder") << "sub" << false << "sub"
+                            << "";
+    QTest::newRow("folder with a trailing separator") << "sub/" << false << "sub"
+                                                      << "";
+    QTest::newRow("file") << "sub/plan.dwg" << false << "sub"
+                          << "plan.dwg";
+    QTest::newRow("file, several") << "sub/plan.dwg" << true << "sub"
+                                   << "plan.dwg";
+    QTest::newRow("missing file") << "sub/new.dwg" << false << "sub"
+                                  << "new.dwg";
     QTest::newRow("missing folder") << "gone/new.dwg" << false << QString() << "new.dwg";
 }
 

@@ -110,7 +110,8 @@ void PathBarDialogTest::showsTheStartFolder()
     withDialogAt(base.addFolder("ann/Plans"), [&](QFileDialog& dialog) {
         QCOMPARE(row(dialog), rowFor(base.filePath("ann/Plans")));
         for (const CVyDirPushButton* button : buttons(dialog)) {
-            QCOMPARE(button->sizePolicy(), QSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred));
+            QCOMPARE(button->sizePolicy(),
+                     QSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred));
             QCOMPARE(button->minimumWidth(), 30);
             QCOMPARE(button->objectName(), QStringLiteral("folderButton"));
             QCOMPARE(button->accessibleName(), button->fullName());
@@ -156,27 +157,31 @@ void PathBarDialogTest::followsEveryNavigation_data()
     QTest::addColumn<Navigation>("go");
     QTest::newRow("typed and entered") << Navigation(
         [](QFileDialog& dialog, const QString& folder) { typeAndAccept(dialog, folder); });
-    QTest::newRow("name typed and entered") << Navigation([](QFileDialog& dialog, const QString& folder) {
-        waitForFile(dialog, QDir(folder).dirName());
-        typeAndAccept(dialog, QDir(folder).dirName());
-    });
-    QTest::newRow("entered in the list") << Navigation([](QFileDialog& dialog, const QString& folder) {
-        QVERIFY(clickFile(dialog, QDir(folder).dirName()));
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-    });
+    QTest::newRow("name typed and entered")
+        << Navigation([](QFileDialog& dialog, const QString& folder) {
+               waitForFile(dialog, QDir(folder).dirName());
+               typeAndAccept(dialog, QDir(folder).dirName());
+           });
+    QTest::newRow("entered in the list")
+        << Navigation([](QFileDialog& dialog, const QString& folder) {
+               QVERIFY(clickFile(dialog, QDir(folder).dirName()));
+               QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+           });
     QTest::newRow("set by code") << Navigation(
         [](QFileDialog& dialog, const QString& folder) { dialog.setDirectory(folder); });
     QTest::newRow("set with a trailing separator") << Navigation(
         [](QFileDialog& dialog, const QString& folder) { dialog.setDirectory(folder + '/'); });
-    QTest::newRow("file selected by code") << Navigation([](QFileDialog& dialog, const QString& folder) {
-        dialog.selectFile(folder + QStringLiteral("/plan.dwg"));
-    });
-    QTest::newRow("place of the sidebar") << Navigation([](QFileDialog& dialog, const QString& folder) {
-        dialog.setSidebarUrls({QUrl::fromLocalFile(folder)});
-        auto* sidebar = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
-        const QRect first = sidebar->visualRect(sidebar->model()->index(0, 0));
-        QTest::mouseClick(sidebar->viewport(), Qt::LeftButton, Qt::NoModifier, first.center());
-    });
+    QTest::newRow("file selected by code")
+        << Navigation([](QFileDialog& dialog, const QString& folder) {
+               dialog.selectFile(folder + QStringLiteral("/plan.dwg"));
+           });
+    QTest::newRow("place of the sidebar") << Navigation(
+        [](QFileDialog& dialog, const QString& folder) {
+            dialog.setSidebarUrls({QUrl::fromLocalFile(folder)});
+            auto* sidebar = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+            const QRect first = sidebar->visualRect(sidebar->model()->index(0, 0));
+            QTest::mouseClick(sidebar->viewport(), Qt::LeftButton, Qt::NoModifier, first.center());
+        });
 }
 
 Q_DECLARE_METATYPE(std::function<void(QFileDialog&, const QString&)>)
@@ -336,18 +341,21 @@ void PathBarDialogTest::widensAgain()
 void PathBarDialogTest::widthsStayInBounds()
 {
     DrawingFolder base;
-    withDialogAt(base.addFolder("i/long folder name/another long folder name/x"), [&](QFileDialog& dialog) {
-        for (const int width : {300, 500, 700, 1200}) {
-            dialog.resize(width, dialog.height());
-            QTest::qWait(20);
-            for (const CVyDirPushButton* button : buttons(dialog)) {
-                const int full = VyPathBar::paddedWidth(button->fontMetrics(), button->fullName());
-                QVERIFY(button->width() >= 30);
-                QVERIFY(button->width() <= qMax(30, full));
-                QCOMPARE(button->toolTip().isEmpty(), button->shownName() == button->fullName());
-            }
-        }
-    });
+    withDialogAt(base.addFolder("i/long folder name/another long folder name/x"),
+                 [&](QFileDialog& dialog) {
+                     for (const int width : {300, 500, 700, 1200}) {
+                         dialog.resize(width, dialog.height());
+                         QTest::qWait(20);
+                         for (const CVyDirPushButton* button : buttons(dialog)) {
+                             const int full =
+                                 VyPathBar::paddedWidth(button->fontMetrics(), button->fullName());
+                             QVERIFY(button->width() >= 30);
+                             QVERIFY(button->width() <= qMax(30, full));
+                             QCOMPARE(button->toolTip().isEmpty(),
+                                      button->shownName() == button->fullName());
+                         }
+                     }
+                 });
 }
 
 void PathBarDialogTest::ampersandIsNoMnemonic()

@@ -105,8 +105,8 @@ void PreviewPaneTest::scalesFromTheFullSize()
 void PreviewPaneTest::emptyLabelSaysNothing()
 {
     static bool warned = false;
-    const auto previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) {
+    const auto previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
             warned = warned || text.contains(QLatin1String("QImage"));
         });
     CVyFileDialogPreview preview(nullptr);

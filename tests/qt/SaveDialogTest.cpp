@@ -15,7 +15,8 @@ HostRequest saveRequest(const QString& start)
 {
     HostRequest request;
     request.type = CVyUserIO::FileNameSave;
-    request.filter = QStringLiteral("Drawing&*.dwg&Both&*.dwg;*.dxf&Template&*.dwt&Old&*.DWT&Any&*");
+    request.filter =
+        QStringLiteral("Drawing&*.dwg&Both&*.dwg;*.dxf&Template&*.dwt&Old&*.DWT&Any&*");
     request.start = start;
     return request;
 }

@@ -59,8 +59,8 @@ void SidebarTest::init()
 
 void SidebarTest::addsThePlaces()
 {
-    const QString documents
-        = QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).constFirst();
+    const QString documents =
+        QStandardPaths::standardLocations(QStandardPaths::DocumentsLocation).constFirst();
     HostRequest request;
     request.start = m_start.path();
     request.getFileName({onFileDialog([&](QFileDialog& dialog) {
@@ -69,7 +69,8 @@ void SidebarTest::addsThePlaces()
         QCOMPARE(urls.at(2), urlOf(m_start.path()));
         QVERIFY(urls.contains(urlOf(documents)));
         for (const QUrl& place : VySidebarPlaces::urls(m_start.path()))
-            QVERIFY2(urls.contains(QUrl::fromLocalFile(place.toLocalFile())), qPrintable(place.toString()));
+            QVERIFY2(urls.contains(QUrl::fromLocalFile(place.toLocalFile())),
+                     qPrintable(place.toString()));
         dialog.reject();
     })});
 }

@@ -34,7 +34,10 @@ public:
     int setDefaultFileName(const CVyString&) override { return called("setDefaultFileName"); }
     int setFileTypes(const CVyString&) override { return called("setFileTypes"); }
     int setFileTypeIndex(int) override { return called("setFileTypeIndex"); }
-    int setDefaultTemplateName(const CVyString&) override { return called("setDefaultTemplateName"); }
+    int setDefaultTemplateName(const CVyString&) override
+    {
+        return called("setDefaultTemplateName");
+    }
     int show(unsigned long long) override { return called("show"); }
     int getResult(CVyString*) override { return called("getResult"); }
     int getResults(std::vector<CVyString>*) override { return called("getResults"); }
@@ -71,8 +74,8 @@ QStringList ownMethods(const QMetaObject& meta)
         const QMetaMethod method = meta.method(i);
         const QString kind = method.methodType() == QMetaMethod::Signal ? "signal" : "slot";
         const QStringList access{"private", "protected", "public"};
-        methods.append(access.at(method.access()) + ' ' + kind + ' '
-                       + QString::fromLatin1(method.methodSignature()));
+        methods.append(access.at(method.access()) + ' ' + kind + ' ' +
+                       QString::fromLatin1(method.methodSignature()));
     }
     return methods;
 }
@@ -95,13 +98,28 @@ private Q_SLOTS:
 void SlotOrderTest::interface_data()
 {
     QTest::addColumn<int>("slot");
-    const QStringList order{"setTitle", "setDefaultExtension", "setDefaultFolder",
-                            "setDefaultFileName", "setFileTypes", "setFileTypeIndex",
-                            "setDefaultTemplateName", "show", "getResult", "getResults",
-                            "getFileTypeIndex", "getTemplateName", "getNewMode", "getOpenMode",
-                            "setExpert", "onTypeChange", "onActionOpen", "onActionOpenReadOnly",
-                            "onActionOpenWithEncoding", "onActionNew",
-                            "onActionNewNoTemplateImperial", "onActionNewNoTemplateMetric",
+    const QStringList order{"setTitle",
+                            "setDefaultExtension",
+                            "setDefaultFolder",
+                            "setDefaultFileName",
+                            "setFileTypes",
+                            "setFileTypeIndex",
+                            "setDefaultTemplateName",
+                            "show",
+                            "getResult",
+                            "getResults",
+                            "getFileTypeIndex",
+                            "getTemplateName",
+                            "getNewMode",
+                            "getOpenMode",
+                            "setExpert",
+                            "onTypeChange",
+                            "onActionOpen",
+                            "onActionOpenReadOnly",
+                            "onActionOpenWithEncoding",
+                            "onActionNew",
+                            "onActionNewNoTemplateImperial",
+                            "onActionNewNoTemplateMetric",
                             "HandleDialogInitialization"};
     int slot = 2; // the destructor takes two, one of which also frees
     for (const QString& name : order)
@@ -129,15 +147,13 @@ void SlotOrderTest::widgetMetaObject()
     QCOMPARE(meta.superClass(), &QFileDialog::staticMetaObject);
     QCOMPARE(meta.propertyCount(), meta.propertyOffset());
     QCOMPARE(ownMethods(meta),
-             (QStringList{"private slot onCurrentFile(QString)",
-                          "private slot onChangedDirectory(QString)",
-                          "private slot onChangedDirectory()",
-                          "private slot dirButtonPressed(QPushButton*)",
-                          "private slot filterChanged(QString)", "private slot onActionOpen()",
-                          "private slot onActionOpenReadOnly()",
-                          "private slot onActionOpenWithEncoding()", "private slot onActionNew()",
-                          "private slot onActionNewNoTemplateImperial()",
-                          "private slot onActionNewNoTemplateMetric()"}));
+             (QStringList{
+                 "private slot onCurrentFile(QString)", "private slot onChangedDirectory(QString)",
+                 "private slot onChangedDirectory()", "private slot dirButtonPressed(QPushButton*)",
+                 "private slot filterChanged(QString)", "private slot onActionOpen()",
+                 "private slot onActionOpenReadOnly()", "private slot onActionOpenWithEncoding()",
+                 "private slot onActionNew()", "private slot onActionNewNoTemplateImperial()",
+                 "private slot onActionNewNoTemplateMetric()"}));
 }
 
 void SlotOrderTest::folderButtonMetaObject()
