@@ -93,12 +93,21 @@ bool clickFile(QFileDialog& dialog, const QString& name)
     return view->currentIndex() == index;
 }
 
+// Without the focus QFileDialog takes what is typed for a name set by code, and
+// keeps what was selected before.
 void typeName(QFileDialog& dialog, const QString& name)
 {
     auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    edit->setFocus();
+    const bool focused = QTest::qWaitFor([&] {
+        dialog.activateWindow();
+        edit->setFocus();
+        return edit->hasFocus();
+    });
+    if (!focused)
+        QTest::qFail("the name field does not take the focus", __FILE__, __LINE__);
     edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
+    if (name.isEmpty())
+        QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, name);
 }
 
