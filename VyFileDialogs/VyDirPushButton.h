@@ -33,9 +33,11 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The user chose this folder; \a button is the sender.
     void dirClicked(QPushButton* button);
 
 public Q_SLOTS:
+    /// Announces dirClicked(), whatever \a checked says.
     void onClicked(bool checked);
 
 protected:

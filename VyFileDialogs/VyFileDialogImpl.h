@@ -19,6 +19,7 @@ public:
 
     // The setters store their value for show(); their status carries no news.
 
+    /// The window's caption.
     virtual int setTitle(const CVyString& title) = 0;
     /// The suffix for names typed without one.
     virtual int setDefaultExtension(const CVyString& extension) = 0;
@@ -30,6 +31,7 @@ public:
     virtual int setFileTypes(const CVyString& filter) = 0;
     /// The preselected file type, 0-based; clamped into the list.
     virtual int setFileTypeIndex(int index) = 0;
+    /// The template to preselect, for a back-end that has such a thing.
     virtual int setDefaultTemplateName(const CVyString& name) = 0;
 
     /// Runs the dialog modally over the window with the native identifier

@@ -8,12 +8,9 @@
 #include "VyUtils.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QCursor>
 #include <QDir>
 #include <QThread>
-
-#include <utility>
 
 namespace {
 
@@ -163,7 +160,6 @@ void CVyFileDialogQt::configureWidget()
     m_widget->setAcceptMode(static_cast<QFileDialog::AcceptMode>(m_acceptMode));
     HandleDialogInitialization();
     m_fileNameEdit = m_widget->findChildren<QLineEdit*>().value(0);
-    keepNameOnTypeChange();
     m_widget->selectFile(m_defaultFileName);
 }
 
@@ -213,41 +209,24 @@ int CVyFileDialogQt::getOpenMode()
 
 void CVyFileDialogQt::onTypeChange(const QString& filter)
 {
-    const QString typedName = takeTypedName();
+    if (!m_widget || !m_fileNameEdit)
+        return;
+    // When saving, selecting a type rewrites the name's ending by a rule of
+    // QFileDialog's own; ours starts from what was typed.
+    const QString typedName = m_fileNameEdit->text();
+    m_widget->selectNameFilter(filter);
+
     const QStringList entries = VyFileTypeList::entries(m_qtFilter);
     const QStringList lists = VyFileTypeList::splitLists(m_extensionLists);
     const int type = entries.indexOf(filter);
-    if (!m_widget || type < 0 || entries.size() != lists.size())
+    if (type < 0 || entries.size() != lists.size())
         return;
     const QStringList extensions = VyFileTypeList::splitExtensions(lists.at(type));
-    if (!extensions.isEmpty()) {
+    if (!extensions.isEmpty())
         m_widget->setDefaultSuffix(extensions.constFirst());
-        m_widget->selectNameFilter(filter);
-    }
-    if (!m_fileNameEdit || typedName.isEmpty() || m_widget->selectedFiles().isEmpty())
-        return;
-    m_fileNameEdit->setText(
-        VyFileTypeList::nameForType(m_widget->directory(), typedName, extensions));
-}
-
-// A saving QFileDialog gives the name the first extension of a new type by
-// itself, before it says that the type has changed, and so takes away an
-// extension that the new type has too. This keeps what the user had typed.
-void CVyFileDialogQt::keepNameOnTypeChange()
-{
-    auto* types = m_widget->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    if (!types || !m_fileNameEdit)
-        return;
-    QObject::connect(types, QOverload<int>::of(&QComboBox::currentIndexChanged), m_fileNameEdit,
-                     [this] { m_nameBeforeTypeChange = m_fileNameEdit->text(); });
-}
-
-QString CVyFileDialogQt::takeTypedName()
-{
-    QString name = m_fileNameEdit ? m_fileNameEdit->text() : QString();
-    if (!m_nameBeforeTypeChange.isNull())
-        name = std::exchange(m_nameBeforeTypeChange, QString());
-    return name;
+    if (!typedName.isEmpty() && !m_widget->selectedFiles().isEmpty())
+        m_fileNameEdit->setText(
+            VyFileTypeList::nameForType(m_widget->directory(), typedName, extensions));
 }
 
 void CVyFileDialogQt::onActionOpen() {}

@@ -46,6 +46,8 @@ public:
     /// The user chose the type with the entry \a filter: gives the typed name
     /// an extension of that type.
     virtual void onTypeChange(const QString& filter);
+    /// The user chose an entry of the mode menu. Each does nothing here; the
+    /// kind that offers the entry notes the mode and ends the dialog.
     virtual void onActionOpen();
     virtual void onActionOpenReadOnly();
     virtual void onActionOpenWithEncoding();
@@ -89,10 +91,6 @@ protected:
 
 private:
     void configureWidget();
-    void keepNameOnTypeChange();
-    QString takeTypedName();
-
-    QString m_nameBeforeTypeChange; ///< null but while the type is changing
 };
 
 /// Picks a template for a new drawing, or none.

@@ -2,7 +2,6 @@
 #include "VyFileDialogWidget.h"
 
 #include "VyFileDialogQt.h"
-#include "VyPathBar.h"
 #include "VyPreviewBitmap.h"
 
 #include <QFileInfo>
@@ -46,6 +45,8 @@ CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner
     connectNavigation();
     makeRoom();
     connect(this, SIGNAL(filterSelected(QString)), this, SLOT(filterChanged(QString)));
+    if (parent)
+        connect(parent, &QObject::destroyed, this, [this] { leaveParent(); });
 }
 
 CVyFileDialogWidget::~CVyFileDialogWidget()
@@ -73,7 +74,7 @@ int CVyFileDialogWidget::exec()
 void CVyFileDialogWidget::setVisible(bool visible)
 {
     if (visible)
-        tabThroughPathBarFirst();
+        orderTabs();
     QFileDialog::setVisible(visible);
     if (!visible && m_loop)
         m_loop->quit();
@@ -166,6 +167,17 @@ void CVyFileDialogWidget::makeRoom()
     if (m_previewFrame)
         wanted.rwidth() += m_previewFrame->sizeHint().width();
     resize(wanted.boundedTo(screen()->availableSize() * 2 / 3).expandedTo(size()));
+}
+
+// The host deletes the window that the dialog belongs to. Going with it would
+// take along a question that QFileDialog is asking from its stack.
+void CVyFileDialogWidget::leaveParent()
+{
+    setParent(nullptr);
+    const auto questions = findChildren<QDialog*>();
+    for (QDialog* question : questions)
+        question->reject();
+    reject();
 }
 
 void CVyFileDialogWidget::onCurrentFile(const QString& path)

@@ -72,6 +72,7 @@ private:
     void addPathBar(QWidget* contents);
     void connectNavigation();
     void makeRoom();
+    void leaveParent();
 
     void showFolder(const QString& path);
     QStringList folderNames() const;
@@ -79,7 +80,7 @@ private:
     void addFolderButton(const QString& name);
     void markCurrent(const CVyDirPushButton* current);
     void takeFocusFromPathBar();
-    void tabThroughPathBarFirst();
+    void orderTabs();
 
     QHBoxLayout* m_pathBar = nullptr;
     QList<CVyDirPushButton*> m_folderButtons; ///< from the root on

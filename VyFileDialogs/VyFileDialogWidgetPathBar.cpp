@@ -4,6 +4,7 @@
 
 #include "VyPathBar.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 
@@ -19,9 +20,9 @@ QFont fontOf(const CVyDirPushButton* first, bool current)
 
 } // namespace
 
-// Lays the row out unless it already stands for \a path, which a folder that is
-// announced twice, or reached by the row's own button, does. The place above
-// the root has no path; the row reads "/" there.
+// Lays the row out unless it already stands for \a path, as it does for a folder
+// that is announced twice. The place above the root has no path; the row reads
+// "/" there.
 void CVyFileDialogWidget::showFolder(const QString& path)
 {
     const QString folder = path.isEmpty() ? QStringLiteral("/") : path;
@@ -52,14 +53,15 @@ void CVyFileDialogWidget::dirButtonPressed(QPushButton* button)
     const int index = m_folderButtons.indexOf(static_cast<CVyDirPushButton*>(button));
     if (index < 0)
         return;
-    const QString folder = VyPathBar::folderOf(folderNames(), index);
     markCurrent(m_folderButtons.at(index));
     for (CVyDirPushButton* each : qAsConst(m_folderButtons))
         each->setMaximumWidth(VyPathBar::paddedWidth(each->fontMetrics(), each->shownName()));
 
-    m_shownFolder = folder.isEmpty() ? QStringLiteral("/") : folder;
-    setDirectory(folder);
-    onChangedDirectory(); // tells the truth when that folder is gone
+    // Laid out anew in any case: the folder may be gone, and then another one
+    // is current; and the widths just set would let the row waste its room.
+    m_shownFolder.clear();
+    setDirectory(VyPathBar::folderOf(folderNames(), index));
+    onChangedDirectory();
 }
 
 void CVyFileDialogWidget::resizeEvent(QResizeEvent* event)
@@ -106,6 +108,27 @@ void CVyFileDialogWidget::markCurrent(const CVyDirPushButton* current)
         button->setFont(button == current ? bold : normal);
 }
 
+// The row stands first, but its buttons were made before those of the button
+// box. The chain is a ring: its end comes before the dialog's first widget, and
+// that is also where buttons made later are appended.
+void CVyFileDialogWidget::orderTabs()
+{
+    QWidget* last = previousInFocusChain();
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
+        setTabOrder(last, button);
+        last = button;
+    }
+    // Qt's own order goes from the name to the button box, which hands the
+    // focus on to its buttons, and so past the types. In two steps: to
+    // setTabOrder() the box has no focus, and the types follow the name already.
+    auto* name = findChild<QLineEdit*>();
+    auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    if (name && types) {
+        setTabOrder(last, types);
+        setTabOrder(name, types);
+    }
+}
+
 // After a navigation Return is to mean the accept button again.
 void CVyFileDialogWidget::takeFocusFromPathBar()
 {
@@ -113,16 +136,4 @@ void CVyFileDialogWidget::takeFocusFromPathBar()
     auto* nameEdit = findChild<QLineEdit*>();
     if (focused && nameEdit)
         nameEdit->setFocus();
-}
-
-// The row stands first, but its buttons were made before those of the button
-// box. The chain is a ring: its end comes before the dialog's first widget, and
-// that is also where buttons made later are appended.
-void CVyFileDialogWidget::tabThroughPathBarFirst()
-{
-    QWidget* last = previousInFocusChain();
-    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
-        setTabOrder(last, button);
-        last = button;
-    }
 }

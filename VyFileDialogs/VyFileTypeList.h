@@ -24,10 +24,11 @@
 /// "&"; they vanish where empty parts are skipped.
 namespace VyFileTypeList {
 
+/// The two lists that a back-end keeps.
 struct Types
 {
-    CVyString qtFilter;
-    CVyString extensionLists;
+    CVyString qtFilter;       ///< the Qt filter string
+    CVyString extensionLists; ///< the extension lists
 };
 
 /// Both lists of a converted filter.

@@ -56,7 +56,8 @@ QString fittingText(const QFontMetrics& metrics, const QString& name, int width)
 {
     if (paddedWidth(metrics, name) <= width)
         return name;
-    return metrics.elidedText(name, Qt::ElideRight, width - 15);
+    const QString elided = metrics.elidedText(name, Qt::ElideRight, width - 15);
+    return elided.isEmpty() ? QString(QChar(0x2026)) : elided;
 }
 
 } // namespace VyPathBar

@@ -33,7 +33,7 @@ QString singleLine(const QString& name);
 int paddedWidth(const QFontMetrics& metrics, const QString& text);
 
 /// What a button \a width pixels wide shows of \a name: all of it, or its
-/// beginning with an ellipsis.
+/// beginning with an ellipsis, at least that.
 QString fittingText(const QFontMetrics& metrics, const QString& name, int width);
 
 } // namespace VyPathBar

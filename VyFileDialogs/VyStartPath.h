@@ -10,6 +10,7 @@
 /// How a request's start path presets a dialog.
 namespace VyStartPath {
 
+/// Which of the host's two calls is made.
 enum class Request
 {
     SingleFile,

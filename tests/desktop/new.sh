@@ -6,7 +6,7 @@ echo template >"$plans/iso.dwt"
 types='Templates&*.dwt'
 
 ask 'New Drawing' new --modes --json --start "$plans" --filter "$types"
-press Tab alt+Down
+press Tab Tab alt+Down
 screenshot "$out/new-menu.png"
 press Up Return
 finish
@@ -20,6 +20,6 @@ expect 'the exit status' "$status" 0
 expect 'the answer' "$answer" "$plans/iso.dwt"
 
 ask 'New Cancelled' new --modes --start "$plans" --filter "$types"
-press Tab Tab space
+press Tab Tab Tab space
 finish
 expect 'the exit status' "$status" 1

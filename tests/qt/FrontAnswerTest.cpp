@@ -68,6 +68,7 @@ private Q_SLOTS:
     void encodingDialogNamesTheFiles_data();
     void encodingDialogNamesTheFiles();
     void encodingWithoutOutputs();
+    void encodingIsAskedWithoutTheLock();
 };
 
 void FrontAnswerTest::cancelledWritesTheModeAlone_data()
@@ -184,6 +185,7 @@ void FrontAnswerTest::completesTheExtension_data()
                          << "/d/plan";
 }
 
+// The index is the caller's where the back-end finds no type.
 void FrontAnswerTest::completesTheExtension()
 {
     QFETCH(unsigned, type);
@@ -321,6 +323,25 @@ void FrontAnswerTest::encodingWithoutOutputs()
                                         nullptr),
              VyStatus::Accepted);
     QCOMPARE(QString(path), QStringLiteral("/d/plan.dwg"));
+}
+
+void FrontAnswerTest::encodingIsAskedWithoutTheLock()
+{
+    QPushButton hostButton;
+    const QSignalSpy clicks(&hostButton, SIGNAL(clicked()));
+    hostButton.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&hostButton));
+    script().openMode = 2;
+    for (const bool several : {false, true}) {
+        HostRequest request;
+        const std::vector<DialogDriver::Step> steps{[&](QDialog& dialog) {
+            hostButton.click(); // what a host does by itself is never locked
+            QTest::mouseClick(&hostButton, Qt::LeftButton);
+            dialog.reject();
+        }};
+        several ? request.getFileNames(steps) : request.getFileName(steps);
+    }
+    QCOMPARE(clicks.size(), 4);
 }
 
 QTEST_MAIN(FrontAnswerTest)

@@ -196,7 +196,6 @@ void FrontTest::passesOtherStatusOn()
     QVERIFY(request.paths.isEmpty());
 }
 
-// The index is the caller's where the back-end finds no type.
 void FrontTest::keepsTheWorkingDirectory()
 {
     const QString before = QDir::currentPath();

@@ -68,6 +68,8 @@ private Q_SLOTS:
     void anotherDocumentGetsTheCursor();
     void hostWindowIsLockedMeanwhile();
     void requestInsideARequest();
+    void survivesItsParent_data();
+    void survivesItsParent();
     void refusesWithoutItsThread();
 
 private:
@@ -203,6 +205,42 @@ void LifetimeTest::requestInsideARequest()
     QCOMPARE(inner.status, VyStatus::Accepted);
     QCOMPARE(inner.paths, QStringList{m_folder.filePath("inner.dwg")});
     QCOMPARE(outer.status, VyStatus::Cancelled);
+}
+
+void LifetimeTest::survivesItsParent_data()
+{
+    QTest::addColumn<unsigned>("type");
+    QTest::addColumn<QString>("typed"); // leads to a question of QFileDialog's own
+    QTest::addColumn<bool>("grandparent");
+    QTest::newRow("dialog alone") << 0x2U << QString() << false;
+    QTest::newRow("asked whether to overwrite") << 0x4U << "red.png" << false;
+    QTest::newRow("told that a file is missing") << 0x2U << "gone.png" << false;
+    QTest::newRow("parent of the parent goes") << 0x4U << "red.png" << true;
+}
+
+void LifetimeTest::survivesItsParent()
+{
+    QFETCH(unsigned, type);
+    QFETCH(QString, typed);
+    QFETCH(bool, grandparent);
+    auto* window = new QWidget;
+    auto* child = new QWidget(window);
+    child->winId();
+    window->show();
+    HostRequest request;
+    request.type = type;
+    request.filter = QStringLiteral("All files&*");
+    request.start = m_folder.path();
+    request.parent = grandparent ? child->winId() : window->winId();
+    const auto deleteWindow = [&](QDialog&) { delete window; };
+    std::vector<DialogDriver::Step> steps;
+    if (!typed.isEmpty())
+        steps.push_back(onFileDialog([&](QFileDialog& dialog) { typeAndAccept(dialog, typed); }));
+    steps.push_back(deleteWindow);
+    request.getFileName(steps);
+    QCOMPARE(request.status, VyStatus::Cancelled);
+    QVERIFY(!QApplication::activeModalWidget());
+    QVERIFY(request.paths.isEmpty());
 }
 
 void LifetimeTest::refusesWithoutItsThread()

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QToolButton>
 #include <QtTest>
 
@@ -95,6 +96,9 @@ private Q_SLOTS:
     void wholeNamesWhereThereIsRoom();
     void elidedWithToolTip();
     void widensAgain();
+    void clicksInANarrowRowKeepTheNames();
+    void followsTheListedSignals();
+    void firstSizeMakesRoom();
     void widthsStayInBounds();
     void ampersandIsNoMnemonic();
     void richTextNameStaysPlain();
@@ -336,6 +340,69 @@ void PathBarDialogTest::widensAgain()
         QCOMPARE(button->text(), name);
         QCOMPARE(button->toolTip(), QString());
     });
+}
+
+void PathBarDialogTest::clicksInANarrowRowKeepTheNames()
+{
+    DrawingFolder base;
+    withDialogAt(base.addFolder("a rather long name/another rather long name/and the last one"),
+                 [&](QFileDialog& dialog) {
+                     dialog.resize(500, dialog.height());
+                     QTest::qWait(20);
+                     const auto texts = [&] {
+                         QTest::qWait(20);
+                         QStringList shown;
+                         for (const CVyDirPushButton* button : buttons(dialog))
+                             shown.append(button->text());
+                         return shown;
+                     };
+                     const QStringList before = texts();
+                     QVERIFY(before.constLast().endsWith(QChar(0x2026)));
+                     for (int round = 0; round < 4; ++round) {
+                         QTest::mouseClick(buttons(dialog).at(buttons(dialog).size() - 3),
+                                           Qt::LeftButton);
+                         texts();
+                         QTest::mouseClick(buttons(dialog).constLast(), Qt::LeftButton);
+                         QCOMPARE(texts(), before);
+                     }
+                 });
+}
+
+// Each connection by itself: what it announces is not where the dialog is.
+void PathBarDialogTest::followsTheListedSignals()
+{
+    DrawingFolder base;
+    withDialogAt(base.path(), [&](QFileDialog& dialog) {
+        for (const char* name : {"backButton", "forwardButton"}) {
+            Q_EMIT dialog.directoryEntered(QStringLiteral("/Users/ann"));
+            QCOMPARE(row(dialog), rowFor("/Users/ann"));
+            Q_EMIT dialog.findChild<QToolButton*>(QLatin1String(name))->clicked();
+            QCOMPARE(row(dialog), rowFor(base.path()));
+        }
+    });
+}
+
+void PathBarDialogTest::firstSizeMakesRoom()
+{
+    DrawingFolder base;
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    const auto widthOf = [&](unsigned type, const QString& folder) {
+        int width = 0;
+        HostRequest request;
+        request.type = type;
+        request.start = folder;
+        request.getFileName({onFileDialog([&](QFileDialog& dialog) {
+            width = dialog.width();
+            dialog.reject();
+        })});
+        return width;
+    };
+    QFileDialog plain;
+    plain.setOption(QFileDialog::DontUseNativeDialog);
+    const int bound = qMax(plain.width(), screen.width() * 2 / 3);
+    QCOMPARE(widthOf(0x102, QDir::rootPath()), plain.width());
+    QVERIFY(widthOf(0x2, QDir::rootPath()) > plain.width() || plain.width() >= bound);
+    QCOMPARE(widthOf(0x102, base.addFolder(QString(200, 'w'))), bound);
 }
 
 void PathBarDialogTest::widthsStayInBounds()

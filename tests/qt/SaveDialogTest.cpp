@@ -55,6 +55,8 @@ private Q_SLOTS:
     void keepsTheFileWhenTheUserSaysNo();
     void typeChangeAdaptsTheName_data();
     void typeChangeAdaptsTheName();
+    void sameTypeAgainKeepsTheName();
+    void typesOfOneNameKeepTheName();
     void typeChangeThenSave();
     void templateTypeSwitchesTheFolder_data();
     void templateTypeSwitchesTheFolder();
@@ -206,6 +208,32 @@ void SaveDialogTest::typeChangeAdaptsTheName()
         typeName(dialog, typed);
         chooseType(dialog, type);
         QCOMPARE(dialog.findChild<QLineEdit*>()->text(), shown);
+        dialog.reject();
+    })});
+}
+
+void SaveDialogTest::sameTypeAgainKeepsTheName()
+{
+    HostRequest request = saveRequest(QString());
+    request.filter = QStringLiteral("Both&*.dwg;*.dxf");
+    request.getFileName({onFileDialog([](QFileDialog& dialog) {
+        typeName(dialog, "plan.DXF");
+        chooseType(dialog, 0);
+        QCOMPARE(dialog.findChild<QLineEdit*>()->text(), QStringLiteral("plan.DXF"));
+        dialog.reject();
+    })});
+}
+
+void SaveDialogTest::typesOfOneNameKeepTheName()
+{
+    HostRequest request = saveRequest(QString());
+    request.filter = QStringLiteral("Drawing&*.dwg&Drawing&*.dwg&Web&*.dwf");
+    request.getFileName({onFileDialog([](QFileDialog& dialog) {
+        for (const char* name : {"first.dwg", "second.dwg"}) {
+            typeName(dialog, name);
+            chooseType(dialog, 1);
+            QCOMPARE(dialog.findChild<QLineEdit*>()->text(), QLatin1String(name));
+        }
         dialog.reject();
     })});
 }
