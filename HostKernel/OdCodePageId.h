@@ -9,8 +9,8 @@
 /// DWG files store; the names are those of the DXF header variable
 /// $DWGCODEPAGE.
 ///
-/// Source: Open Design Specification for .dwg files, version 5.4.1, section
-/// "DWGCODEPAGE"; DXF Reference, "HEADER section".
+/// Source: the DXF reference, section "HEADER", for the names; the published
+/// description of the DWG file format, file header, for the numbers.
 enum class OdCodePageId : int
 {
     Undefined = 0,

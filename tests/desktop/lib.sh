@@ -18,11 +18,11 @@ done
 
 # Every test starts with empty settings and a folder of its own.
 rm -rf "$out"
-mkdir -p "$out/work/ann/Plans" "$out/config" "$out/runtime"
+mkdir -p "$out/home/ann/Plans" "$out/config" "$out/runtime"
 chmod 700 "$out/runtime"
-export HOME=$out/work XDG_CONFIG_HOME=$out/config XDG_RUNTIME_DIR=$out/runtime LC_ALL=C.UTF-8
+export HOME=$out/home XDG_CONFIG_HOME=$out/config XDG_RUNTIME_DIR=$out/runtime LC_ALL=C.UTF-8
 unset QT_QPA_PLATFORMTHEME
-plans=$out/work/ann/Plans
+plans=$out/home/ann/Plans
 
 fail() {
     echo "FAILED: $*" >&2
