@@ -45,7 +45,7 @@ CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner
     connectNavigation();
     makeRoom();
     connect(this, SIGNAL(filterSelected(QString)), this, SLOT(filterChanged(QString)));
-    if (parent)
+    if (parent) // no slot: what the meta-object lists is fixed
         connect(parent, &QObject::destroyed, this, [this] { leaveParent(); });
 }
 
