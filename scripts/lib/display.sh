@@ -5,18 +5,30 @@
 # start_display FOLDER [GEOMETRY]: sets DISPLAY to a server of our own, which
 # ends with this shell. Its logs go to FOLDER.
 start_display() {
-    local folder=$1 geometry=${2:-1280x1024x24}
+    local folder=$1 geometry=${2:-1280x1024x24} tries=5
     mkdir -p "$folder"
-    Xvfb -displayfd 3 -screen 0 "$geometry" -nolisten tcp 3>"$folder/display" 2>"$folder/xvfb.log" &
-    display_pids=($!)
+    display_pids=()
     trap stop_display EXIT
-    wait_until 'a virtual display' 20 test -s "$folder/display"
-    DISPLAY=:$(cat "$folder/display")
-    export DISPLAY
+    until start_server "$folder" "$geometry"; do
+        ((--tries > 0)) || return 1
+    done
     unset WAYLAND_DISPLAY QT_QPA_PLATFORM
     openbox >"$folder/openbox.log" 2>&1 &
     display_pids+=($!)
     wait_until 'the window manager' 20 window_manager_runs
+}
+
+# A number by chance, not the next free one: a server that is just ending would
+# take the socket of its successor away.
+start_server() {
+    local folder=$1 geometry=$2 number=$((100 + RANDOM % 900))
+    rm -f "$folder/display"
+    Xvfb ":$number" -displayfd 3 -screen 0 "$geometry" -nolisten tcp \
+        3>"$folder/display" 2>"$folder/xvfb.log" &
+    display_pids+=($!)
+    DISPLAY=:$number
+    export DISPLAY
+    wait_until "a virtual display $DISPLAY" 10 test -s "$folder/display"
 }
 
 stop_display() {
