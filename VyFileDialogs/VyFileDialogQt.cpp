@@ -209,11 +209,11 @@ int CVyFileDialogQt::getOpenMode()
 
 void CVyFileDialogQt::onTypeChange(const QString& filter)
 {
-    if (!m_widget || !m_fileNameEdit)
+    if (!m_widget)
         return;
     // When saving, selecting a type rewrites the name's ending by a rule of
     // QFileDialog's own; ours starts from what was typed.
-    const QString typedName = m_fileNameEdit->text();
+    const QString typedName = m_fileNameEdit ? m_fileNameEdit->text() : QString();
     m_widget->selectNameFilter(filter);
 
     const QStringList entries = VyFileTypeList::entries(m_qtFilter);

@@ -132,8 +132,8 @@ void CVyFileDialogWidget::orderTabs()
 // After a navigation Return is to mean the accept button again.
 void CVyFileDialogWidget::takeFocusFromPathBar()
 {
-    const auto* focused = qobject_cast<CVyDirPushButton*>(focusWidget());
-    auto* nameEdit = findChild<QLineEdit*>();
-    if (focused && nameEdit)
-        nameEdit->setFocus();
+    if (!qobject_cast<CVyDirPushButton*>(focusWidget()))
+        return;
+    if (auto* name = findChild<QLineEdit*>())
+        name->setFocus();
 }
