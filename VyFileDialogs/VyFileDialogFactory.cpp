@@ -24,9 +24,3 @@ CVyFileDialogImpl* CVyFileDialogImpl::createQt(CVyUserIO::_FileNameType type, bo
         return nullptr;
     }
 }
-
-// No native family is built yet.
-CVyFileDialogImpl* CVyFileDialogImpl::createMac(CVyUserIO::_FileNameType, bool, bool)
-{
-    return nullptr;
-}

@@ -2,6 +2,7 @@
 #include "VyFileDialogQt.h"
 
 #include "VyDocument.h"
+#include "VyFileDialogResults.h"
 #include "VyFileDialogWidget.h"
 #include "VyFileTypeList.h"
 #include "VySidebarPlaces.h"
@@ -165,31 +166,17 @@ void CVyFileDialogQt::configureWidget()
 
 int CVyFileDialogQt::getResult(CVyString* path)
 {
-    if (!path)
-        return VyStatus::Failed;
-    if (m_results.isEmpty())
-        return VyStatus::NothingSelected;
-    *path = CVyString(m_results.constFirst());
-    return VyStatus::Accepted;
+    return VyFileDialogResults::first(m_results, path);
 }
 
 int CVyFileDialogQt::getResults(std::vector<CVyString>* paths)
 {
-    if (!paths)
-        return VyStatus::Failed;
-    if (m_results.isEmpty())
-        return VyStatus::NothingSelected;
-    paths->insert(paths->end(), m_results.cbegin(), m_results.cend());
-    return VyStatus::Accepted;
+    return VyFileDialogResults::all(m_results, paths);
 }
 
 int CVyFileDialogQt::getFileTypeIndex(int* index)
 {
-    const int position = VyFileTypeList::indexOf(m_qtFilter, m_selectedFilter);
-    if (!index || position < 0)
-        return VyStatus::Failed;
-    *index = position;
-    return VyStatus::Accepted;
+    return VyFileDialogResults::typeIndex(m_qtFilter, m_selectedFilter, index);
 }
 
 int CVyFileDialogQt::getTemplateName(CVyString*)

@@ -17,7 +17,8 @@ protected:
     /// is then forgiven.
     QStringList takeMessages();
 
-private Q_SLOTS:
+protected Q_SLOTS:
+    // A fixture with its own of these calls them.
     void init();
     void cleanup();
 

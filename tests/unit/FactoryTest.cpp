@@ -101,8 +101,6 @@ void FactoryTest::choosesTheClass()
         for (const bool modeChoices : {false, true}) {
             const Impl qt(CVyFileDialogImpl::createQt(typeOf(type), multiple, modeChoices));
             QCOMPARE(classOf(qt), made);
-            const Impl mac(CVyFileDialogImpl::createMac(typeOf(type), multiple, modeChoices));
-            QVERIFY(!mac);
         }
     }
 }
@@ -117,7 +115,6 @@ void FactoryTest::choosesTheFamily_data()
     QTest::newRow("Qt, open") << 2 << 0x2U << "open";
     QTest::newRow("Qt, save") << 2 << 0x4U << "save";
     QTest::newRow("Qt, unknown kind") << 2 << 0x3U << "";
-    QTest::newRow("native, which is not built yet") << 3 << 0x2U << "";
     QTest::newRow("style at load") << 0 << 0x2U << "";
     QTest::newRow("below the styles") << 1 << 0x2U << "";
     QTest::newRow("above the styles") << 4 << 0x2U << "";

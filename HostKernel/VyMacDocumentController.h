@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include "VyHostKernelExport.h"
+
+/// The native panels' way to the host's list of opened files (VyBookmarks.h).
+VY_HOSTKERNEL_EXPORT
+@interface VyMacDocumentController : NSObject
+
+/// The process's controller; never nil, not owned by the caller.
++ (VyMacDocumentController*)sharedDocumentController;
+
+/// Puts the file of \a url first in the list. Other URLs and nil are ignored.
+- (void)createBookmark:(NSURL*)url;
+
+@end
