@@ -7,6 +7,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <QCoreApplication>
+
 #include <csignal>
 
 #include <X11/Xlib.h> // last: it defines common words as macros
@@ -73,6 +75,20 @@
 
 @end
 
+/// Runs Qt's events from a timer.
+@interface VyHostEventsTarget : NSObject
++ (void)process:(NSTimer*)timer;
+@end
+
+@implementation VyHostEventsTarget
+
++ (void)process:(NSTimer*)timer
+{
+    QCoreApplication::processEvents();
+}
+
+@end
+
 namespace {
 
 BOOL isFolder(NSString* path)
@@ -83,11 +99,12 @@ BOOL isFolder(NSString* path)
 }
 
 // GNUstep ignores what is not a folder. A file is shown in its folder, selected;
-// what does not exist is looked for as far as it does.
+// what does not exist is looked for as far as it does, but not while the user
+// sees the panel: it then stays where it is.
 void showPath(NSSavePanel* panel, NSString* path)
 {
     NSString* folder = path;
-    while (!isFolder(folder) && [folder length] > 1)
+    while (!isFolder(folder) && [folder length] > 1 && ![panel isVisible])
         folder = [folder stringByDeletingLastPathComponent];
     [panel setDirectory:folder];
     if (!isFolder(path) && [[NSFileManager defaultManager] fileExistsAtPath:path])
@@ -103,6 +120,68 @@ void openFolders(NSMatrix* matrix, NSString* path)
             ![[NSWorkspace sharedWorkspace] isFilePackageAtPath:entry])
             [cell setLeaf:NO];
     }
+}
+
+// GNUstep's modal loops do not run Qt's. So that the host's windows are painted,
+// its timers run, and its windows' input goes to the lock that is to swallow it
+// instead of waiting for its end, they are made to.
+constexpr NSTimeInterval hostInterval = 0.02; // seconds
+
+class HostEvents
+{
+public:
+    HostEvents()
+        : m_timer([[NSTimer timerWithTimeInterval:hostInterval
+                                           target:[VyHostEventsTarget class]
+                                         selector:@selector(process:)
+                                         userInfo:nil
+                                          repeats:YES] retain])
+    {
+        [[NSRunLoop currentRunLoop] addTimer:m_timer forMode:NSModalPanelRunLoopMode];
+    }
+    ~HostEvents()
+    {
+        [m_timer invalidate];
+        [m_timer release];
+    }
+    Q_DISABLE_COPY(HostEvents)
+
+private:
+    NSTimer* const m_timer;
+};
+
+// While it lives, the Tab key comes from the name field to the popups of the
+// accessory view, from top to bottom, before it goes on.
+class PopupsInKeyLoop
+{
+public:
+    PopupsInKeyLoop(NSSavePanel* panel, NSView* nameField)
+        : m_nameField(nameField)
+        , m_next([nameField nextKeyView])
+    {
+        NSView* last = nameField;
+        for (NSView* view in [[panel accessoryView] subviews]) {
+            if (![view isKindOfClass:[NSPopUpButton class]])
+                continue;
+            [last setNextKeyView:view];
+            last = view;
+        }
+        [last setNextKeyView:m_next];
+    }
+    ~PopupsInKeyLoop() { [m_nameField setNextKeyView:m_next]; }
+    Q_DISABLE_COPY(PopupsInKeyLoop)
+
+private:
+    NSView* const m_nameField;
+    NSView* const m_next;
+};
+
+// GNUstep would lose the name that was set before the run.
+NSInteger run(NSSavePanel* panel, NSView* nameField)
+{
+    const PopupsInKeyLoop keyLoop(panel, nameField);
+    const HostEvents events;
+    return [panel runModalForDirectory:[panel directory] file:[panel nameFieldStringValue]];
 }
 
 } // namespace
@@ -121,7 +200,7 @@ void openFolders(NSMatrix* matrix, NSString* path)
 
 - (NSInteger)runModal
 {
-    return [self runModalForDirectory:[self directory] file:[self nameFieldStringValue]];
+    return run(self, _form);
 }
 
 - (void)setDirectoryURL:(NSURL*)url
@@ -160,7 +239,7 @@ void openFolders(NSMatrix* matrix, NSString* path)
 
 - (NSInteger)runModal
 {
-    return [self runModalForDirectory:[self directory] file:[self nameFieldStringValue]];
+    return run(self, _form);
 }
 
 - (void)setDirectoryURL:(NSURL*)url
