@@ -11,7 +11,8 @@
 using VyFloatingWindows = QList<QPointer<QWidget>>;
 
 /// Hides the application's floating windows, its visible top-level widgets of
-/// type Qt::Tool, so that none stands over a native panel. The answer is the
+/// type Qt::Tool that are not modal, so that none stands over a native panel. A
+/// floating QDockWidget tells of it as when its user closes and opens it. The answer is the
 /// token for ShowFloatingWindows(); without a QApplication it is empty. On the
 /// user-interface thread alone.
 VY_HOSTKERNEL_EXPORT VyFloatingWindows HideFloatingWindows();

@@ -26,9 +26,11 @@ constexpr NSUInteger commandKeyMask = 0x100000;
 // masked value itself would become NO.
 - (BOOL)performKeyEquivalent:(NSEvent*)event
 {
-    if (([event modifierFlags] & commandKeyMask) != 0 &&
-        [[event charactersIgnoringModifiers] compare:@"a"] == NSOrderedSame) {
-        [[self firstResponder] tryToPerform:@selector(selectAll:) with:self];
+    NSString* const characters = [event charactersIgnoringModifiers]; // nil for some keys
+    if (([event modifierFlags] & commandKeyMask) != 0 && characters &&
+        [characters compare:@"a"] == NSOrderedSame) {
+        if ([[self firstResponder] respondsToSelector:@selector(selectAll:)])
+            [[self firstResponder] performSelector:@selector(selectAll:) withObject:self];
         return YES;
     }
     return [super performKeyEquivalent:event];

@@ -4,16 +4,18 @@
 #include "VyCocoa.h"
 
 #include "NSOpenPanelExt.h"
+#include "VyCocoaGNUstepRun.h"
 
 #import <AppKit/AppKit.h>
 
-#include <QCoreApplication>
-
 #include <csignal>
+#include <iterator>
 
 #include <X11/Xlib.h> // last: it defines common words as macros
 
 // GNUstep's own, which it does not declare.
+extern "C" const char* GSPathHandling(const char* mode);
+
 @interface NSSavePanel (VyPrivate)
 - (void)_resetDefaults;
 - (void)browser:(NSBrowser*)browser
@@ -75,20 +77,6 @@
 
 @end
 
-/// Runs Qt's events from a timer.
-@interface VyHostEventsTarget : NSObject
-+ (void)process:(NSTimer*)timer;
-@end
-
-@implementation VyHostEventsTarget
-
-+ (void)process:(NSTimer*)timer
-{
-    QCoreApplication::processEvents();
-}
-
-@end
-
 namespace {
 
 BOOL isFolder(NSString* path)
@@ -111,6 +99,12 @@ void showPath(NSSavePanel* panel, NSString* path)
         [panel setNameFieldStringValue:[path lastPathComponent]];
 }
 
+// GNUstep reads the folder again for each list that it is given.
+BOOL isOtherList(NSArray* types, NSArray* present)
+{
+    return [types count] ? ![types isEqualToArray:present] : present != nil;
+}
+
 // GNUstep takes a folder with an allowed extension for a package.
 void openFolders(NSMatrix* matrix, NSString* path)
 {
@@ -120,68 +114,6 @@ void openFolders(NSMatrix* matrix, NSString* path)
             ![[NSWorkspace sharedWorkspace] isFilePackageAtPath:entry])
             [cell setLeaf:NO];
     }
-}
-
-// GNUstep's modal loops do not run Qt's. So that the host's windows are painted,
-// its timers run, and its windows' input goes to the lock that is to swallow it
-// instead of waiting for its end, they are made to.
-constexpr NSTimeInterval hostInterval = 0.02; // seconds
-
-class HostEvents
-{
-public:
-    HostEvents()
-        : m_timer([[NSTimer timerWithTimeInterval:hostInterval
-                                           target:[VyHostEventsTarget class]
-                                         selector:@selector(process:)
-                                         userInfo:nil
-                                          repeats:YES] retain])
-    {
-        [[NSRunLoop currentRunLoop] addTimer:m_timer forMode:NSModalPanelRunLoopMode];
-    }
-    ~HostEvents()
-    {
-        [m_timer invalidate];
-        [m_timer release];
-    }
-    Q_DISABLE_COPY(HostEvents)
-
-private:
-    NSTimer* const m_timer;
-};
-
-// While it lives, the Tab key comes from the name field to the popups of the
-// accessory view, from top to bottom, before it goes on.
-class PopupsInKeyLoop
-{
-public:
-    PopupsInKeyLoop(NSSavePanel* panel, NSView* nameField)
-        : m_nameField(nameField)
-        , m_next([nameField nextKeyView])
-    {
-        NSView* last = nameField;
-        for (NSView* view in [[panel accessoryView] subviews]) {
-            if (![view isKindOfClass:[NSPopUpButton class]])
-                continue;
-            [last setNextKeyView:view];
-            last = view;
-        }
-        [last setNextKeyView:m_next];
-    }
-    ~PopupsInKeyLoop() { [m_nameField setNextKeyView:m_next]; }
-    Q_DISABLE_COPY(PopupsInKeyLoop)
-
-private:
-    NSView* const m_nameField;
-    NSView* const m_next;
-};
-
-// GNUstep would lose the name that was set before the run.
-NSInteger run(NSSavePanel* panel, NSView* nameField)
-{
-    const PopupsInKeyLoop keyLoop(panel, nameField);
-    const HostEvents events;
-    return [panel runModalForDirectory:[panel directory] file:[panel nameFieldStringValue]];
 }
 
 } // namespace
@@ -198,9 +130,30 @@ NSInteger run(NSSavePanel* panel, NSView* nameField)
     return panel;
 }
 
+// GNUstep goes up to the folder of which an entry has vanished.
+- (void)validateVisibleColumns
+{
+    NSString* const path = [_browser path];
+    [super validateVisibleColumns];
+    if (![[_browser path] isEqualToString:path])
+        [_browser setPath:path];
+}
+
+// GNUstep takes a file's name that begins with "~" for a path.
+- (NSArray*)filenames
+{
+    NSMutableArray* const paths = [NSMutableArray array];
+    NSString* const folder = [[self directory] isEqualToString:@"/"] ? @"" : [self directory];
+    for (NSBrowserCell* cell in [_browser selectedCells]) {
+        if ([cell isLeaf])
+            [paths addObject:[NSString stringWithFormat:@"%@/%@", folder, [cell stringValue]]];
+    }
+    return [paths count] ? paths : [super filenames];
+}
+
 - (NSInteger)runModal
 {
-    return run(self, _form);
+    return VyCocoaGNUstep::run(self, _form);
 }
 
 - (void)setDirectoryURL:(NSURL*)url
@@ -208,9 +161,15 @@ NSInteger run(NSSavePanel* panel, NSView* nameField)
     showPath(self, [url path]);
 }
 
+- (void)performClose:(id)sender
+{
+    [self cancel:sender];
+}
+
 - (void)setAllowedFileTypes:(NSArray*)types
 {
-    [super setAllowedFileTypes:[VyExtensionArray arrayWithExtensions:types]];
+    if (isOtherList(types, [self allowedFileTypes]))
+        [super setAllowedFileTypes:[VyExtensionArray arrayWithExtensions:types]];
 }
 
 - (void)browser:(NSBrowser*)browser createRowsForColumn:(NSInteger)column inMatrix:(NSMatrix*)matrix
@@ -239,7 +198,7 @@ NSInteger run(NSSavePanel* panel, NSView* nameField)
 
 - (NSInteger)runModal
 {
-    return run(self, _form);
+    return VyCocoaGNUstep::run(self, _form);
 }
 
 - (void)setDirectoryURL:(NSURL*)url
@@ -247,9 +206,15 @@ NSInteger run(NSSavePanel* panel, NSView* nameField)
     showPath(self, [url path]);
 }
 
+- (void)performClose:(id)sender
+{
+    [self cancel:sender];
+}
+
 - (void)setAllowedFileTypes:(NSArray*)types
 {
-    [super setAllowedFileTypes:[VyExtensionArray arrayWithExtensions:types]];
+    if (isOtherList(types, [self allowedFileTypes]))
+        [super setAllowedFileTypes:[VyExtensionArray arrayWithExtensions:types]];
 }
 
 - (void)browser:(NSBrowser*)browser createRowsForColumn:(NSInteger)column inMatrix:(NSMatrix*)matrix
@@ -272,26 +237,26 @@ bool displayAnswers()
     return display != nullptr;
 }
 
-// GNUstep's back-end takes over the signals that end a process; the host keeps
-// its own ways.
+// GNUstep takes over the signals that end a process, and the one that tells of a
+// child's end, by which Qt knows its own; the host keeps what it has.
 class SignalsKept
 {
 public:
     SignalsKept()
     {
-        sigaction(SIGTERM, nullptr, &m_terminate);
-        sigaction(SIGINT, nullptr, &m_interrupt);
+        for (std::size_t i = 0; i < std::size(signals); ++i)
+            sigaction(signals[i], nullptr, &m_actions[i]);
     }
     ~SignalsKept()
     {
-        sigaction(SIGTERM, &m_terminate, nullptr);
-        sigaction(SIGINT, &m_interrupt, nullptr);
+        for (std::size_t i = 0; i < std::size(signals); ++i)
+            sigaction(signals[i], &m_actions[i], nullptr);
     }
     Q_DISABLE_COPY(SignalsKept)
 
 private:
-    struct sigaction m_terminate;
-    struct sigaction m_interrupt;
+    static constexpr int signals[] = {SIGTERM, SIGINT, SIGCHLD};
+    struct sigaction m_actions[std::size(signals)];
 };
 
 // GNUstep's event loop, which is not ours, would finish launching the
@@ -317,8 +282,6 @@ void listenToWindows(NSApplication* application)
 
 const char* bringUp()
 {
-    if (!displayAnswers())
-        return "no X display answers; see DISPLAY";
     const SignalsKept signals;
     NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
     const char* reason = nullptr;
@@ -327,7 +290,11 @@ const char* bringUp()
         [[NSUserDefaults standardUserDefaults]
             registerDefaults:[NSDictionary dictionaryWithObject:@"YES"
                                                          forKey:@"GSSuppressAppIcon"]];
-        listenToWindows([NSApplication sharedApplication]);
+        [NSTask class]; // takes its signal when it is first used: now
+        // Else ":" and "\\" in a name would count as separators.
+        GSPathHandling("unix");
+        if (![[NSApplication sharedApplication] isRunning])
+            listenToWindows(NSApp);
         NSSavePanel* const savePanel = [NSSavePanel savePanel];
         if ([savePanel isMemberOfClass:[NSSavePanel class]])
             object_setClass(savePanel, [VySavePanel class]);
@@ -340,9 +307,11 @@ const char* bringUp()
 
 } // namespace
 
-// GNUstep does not recover from a failed attempt.
+// GNUstep does not recover from a failed attempt, so the display is asked first.
 const char* bringUpAppKit()
 {
+    if (!displayAnswers())
+        return "no X display answers; see DISPLAY";
     static const char* const reason = bringUp();
     return reason;
 }

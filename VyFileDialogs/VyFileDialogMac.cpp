@@ -24,7 +24,8 @@ public:
     Turn()
         : m_mine(!s_taken)
     {
-        s_taken = true;
+        if (m_mine)
+            s_taken = true;
     }
     ~Turn()
     {
@@ -117,11 +118,11 @@ int CVyFileDialogMac::setDefaultTemplateName(const CVyString& name)
 
 int CVyFileDialogMac::show(unsigned long long)
 {
+    if (!VyCocoa::canShowPanels())
+        return VyStatus::Failed;
     const Turn turn;
     if (!turn.isMine())
         return VyStatus::Cancelled;
-    if (!VyCocoa::canShowPanels())
-        return VyStatus::Failed;
 
     configureNativeDialog();
     m_nativeDialog->DoModal();

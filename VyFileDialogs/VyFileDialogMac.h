@@ -79,7 +79,7 @@ protected:
     CVyString m_defaultFolder;
     CVyString m_selectedFilter;  ///< the entry to preselect, then the one chosen
     CVyString m_defaultFileName; ///< or the template's name
-    QStringList m_results;       ///< what the last show() selected
+    QStringList m_results;       ///< what the last accepted show() selected
     int m_fileMode;
     int m_acceptMode;
     int m_openMode = 0;

@@ -46,14 +46,14 @@ private:
     void* m_directory = nullptr;
     void* m_fileName = nullptr;
     void* m_fileTypes = nullptr;
-    bool m_hasRun = false;
+    int m_response = 0;
 };
 
 /// Sends the messages of a run to the panel.
 class CVyFileDialogMacDoModalCocoa
 {
 public:
-    /// 0 for null and for a panel that raises an Objective-C exception.
+    /// 0 for null and for a panel that raises an exception of its language.
     int doModal_10_6(void* panel);
     /// Checks nothing and catches nothing.
     int doModal_10_5(void* panel, void* directory, void* fileName, void* fileTypes);

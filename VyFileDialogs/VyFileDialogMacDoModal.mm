@@ -38,16 +38,17 @@ int CVyFileDialogMacDoModal::runLoop(const char* slot)
     m_eventLoop = &loop;
     QTimer::singleShot(startDelay, this, slot);
     QGuiApplication::restoreOverrideCursor();
-    const int response = loop.exec();
+    m_response = 0;
+    loop.exec(); // QCoreApplication::exit(1) ends it too: that is no OK button
     m_eventLoop = nullptr;
-    // QCoreApplication::exit(1) ends this loop too; that is no OK button.
-    return m_hasRun ? response : 0;
+    return m_response;
 }
 
 void CVyFileDialogMacDoModal::endLoop(int response)
 {
-    m_hasRun = true;
-    m_eventLoop->exit(response);
+    m_response = response;
+    if (m_eventLoop)
+        m_eventLoop->exit(response);
 }
 
 void CVyFileDialogMacDoModal::slot_doModal_10_6()
@@ -63,8 +64,8 @@ void CVyFileDialogMacDoModal::slot_doModal_10_5()
     @try {
         response = CVyFileDialogMacDoModalCocoa().doModal_10_5(m_panel, m_directory, m_fileName,
                                                                m_fileTypes);
-    } @catch (NSException* exception) {
-        VyPanelMessages::warn(exception);
+    } @catch (id thrown) {
+        VyPanelMessages::warn(thrown);
     }
     endLoop(response);
 }
@@ -75,8 +76,8 @@ int CVyFileDialogMacDoModalCocoa::doModal_10_6(void* panel)
         return 0;
     @try {
         return static_cast<int>([static_cast<NSSavePanel*>(panel) runModal]);
-    } @catch (NSException* exception) {
-        VyPanelMessages::warn(exception);
+    } @catch (id thrown) {
+        VyPanelMessages::warn(thrown);
         return 0;
     }
 }

@@ -46,7 +46,7 @@ void CVyFileDialogMacMacNativePrivate::DoModal()
     @try {
         m_panelController = newPanelController();
         [m_panelController drawWidget];
-    } @catch (NSException* exception) {
-        VyPanelMessages::warn(exception);
+    } @catch (id thrown) {
+        VyPanelMessages::warn(thrown);
     }
 }

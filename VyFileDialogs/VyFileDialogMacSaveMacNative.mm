@@ -43,6 +43,8 @@ id<VyPanelController> CVyFileDialogMacSaveMacNativePrivate::newPanelController()
     if (!VyPanelConstruction::run(panel))
         return;
     NSURL* const url = [panel URL];
+    if (!url)
+        return;
     m_privateHeader->SetFileNames(QStringList(VyPanelConstruction::path(url)));
     m_privateHeader->m_selectedFilter = qStringfromNSString([view selectedFilter]);
     VyPanelConstruction::bookmark(url);

@@ -12,7 +12,8 @@ void allowedFileTypes(NSSavePanel* panel, NSArray* types);
 /// Moves the panel to the folder \a path in the way of the system's generation.
 void directory(NSSavePanel* panel, NSString* path);
 
-/// Reports an exception that a panel raised through Qt's logging.
-void warn(NSException* exception);
+/// Reports what a panel has thrown, an NSException as a rule, through Qt's
+/// logging.
+void warn(id thrown);
 
 } // namespace VyPanelMessages

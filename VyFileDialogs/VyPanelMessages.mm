@@ -33,11 +33,13 @@ void directory(NSSavePanel* panel, NSString* path)
     QT_WARNING_POP
 }
 
-void warn(NSException* exception)
+void warn(id thrown)
 {
-    qWarning("VyFileDialogs: the native panel raised %s: %s",
-             qPrintable(qStringfromNSString([exception name])),
-             qPrintable(qStringfromNSString([exception reason])));
+    QString text = qStringfromNSString([thrown description]);
+    if ([thrown isKindOfClass:[NSException class]])
+        text = qStringfromNSString([thrown name]) + QLatin1String(": ") +
+               qStringfromNSString([thrown reason]);
+    qWarning("VyFileDialogs: the native panel raised %s", qPrintable(text));
 }
 
 } // namespace VyPanelMessages

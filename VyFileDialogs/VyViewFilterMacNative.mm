@@ -32,11 +32,16 @@ NSRect rect(const VyAccessoryLayout::Rect& r)
 }
 
 // Every title gets an item of its own, so that an item's index is its index in
-// the list; a popup folds items that are added with equal titles.
-void addItem(NSPopUpButton* popup, NSString* title)
+// the list. A popup folds items that are added with equal titles, so they are
+// added under numbers.
+void addItems(NSPopUpButton* popup, NSArray* titles)
 {
-    [popup addItemWithTitle:@"\1"];
-    [[popup lastItem] setTitle:title];
+    for (NSUInteger index = 0; index < [titles count]; ++index)
+        [popup
+            addItemWithTitle:[NSString stringWithFormat:@"%lu", static_cast<unsigned long>(index)]];
+    NSInteger index = 0;
+    for (NSString* title in titles)
+        [[popup itemAtIndex:index++] setTitle:title];
 }
 
 NSPopUpButton* addPopup(NSView* view, const VyAccessoryLayout::Rect& frame, NSArray* titles,
@@ -47,8 +52,7 @@ NSPopUpButton* addPopup(NSView* view, const VyAccessoryLayout::Rect& frame, NSAr
     [popup setAutoresizingMask:popupResizing];
     [popup setTarget:view];
     [popup setAction:action];
-    for (NSString* title in titles)
-        addItem(popup, title);
+    addItems(popup, titles);
     [view addSubview:popup];
     return popup;
 }

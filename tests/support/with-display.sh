@@ -17,9 +17,9 @@ for tool in Xvfb openbox xprop; do
     }
 done
 rm -rf "$folder"
-mkdir -p "$folder/home" "$folder/runtime"
+mkdir -p "$folder/home" "$folder/runtime" "$folder/tmp"
 chmod 700 "$folder/runtime"
-export HOME=$folder/home XDG_RUNTIME_DIR=$folder/runtime
+export HOME=$folder/home XDG_RUNTIME_DIR=$folder/runtime TMPDIR=$folder/tmp
 own_gnustep_settings "$folder/gnustep"
 start_display "$folder/display"
 timeout --signal=KILL 240 "$@"
