@@ -196,6 +196,15 @@ void openFolders(NSMatrix* matrix, NSString* path)
     [self setExtensionHidden:NO];
 }
 
+// GNUstep takes a name that begins with "~" for a path, which "~/" only is.
+- (void)ok:(id)sender
+{
+    NSString* const name = [self nameFieldStringValue];
+    if ([name hasPrefix:@"~"] && ![name hasPrefix:@"~/"])
+        [self setNameFieldStringValue:[@"./" stringByAppendingString:name]];
+    [super ok:sender];
+}
+
 - (NSInteger)runModal
 {
     return VyCocoaGNUstep::run(self, _form);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The host's events while an event loop that is not Qt's runs. Plain C++: an
-/// Objective-C++ function cannot catch a C++ exception with every runtime.
+/// The host's events while an event loop that is not Qt's runs. Plain C++: the
+/// panels' language cannot catch a C++ exception with every runtime.
 namespace VyCocoaHostEvents {
 
 /// Handles the events that are pending. False when the host's code has thrown,
