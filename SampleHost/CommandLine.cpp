@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 
 #include "HostPlatform.h"
+#include "VyUtils.h"
 
 #include <QCommandLineParser>
 
@@ -21,7 +22,7 @@ struct OptionText
 
 constexpr OptionText OptionTexts[] = {
     {"title", "Title of the window.", "text"},
-    {"filter", "The file types, for example \"Drawings&*.dwg;*.dxf&All files&*\".", "types"},
+    {"filter", "The file types, for example \"Drawings&*.dwg;*.dxf&All files&*.*\".", "types"},
     {"type-index", "The type that is chosen at first, counted from 0.", "number"},
     {"start", "Folder to show, or file to preset; may also follow the request.", "path"},
     {"default-extension", "Given to names that are typed without one.", "extension"},
@@ -151,6 +152,53 @@ QString readStyle(const QCommandLineParser& parser, Options& options)
     return {};
 }
 
+// Whether a type with these patterns has an extension, in the module's reading:
+// what follows the first "." of a pattern, up to the first pattern without one.
+bool hasExtension(const QString& patterns)
+{
+    for (const QString& pattern : patterns.split(QLatin1Char(';'))) {
+        const int dot = pattern.indexOf(QLatin1Char('.'));
+        if (dot < 0)
+            return false;
+        if (dot + 1 < pattern.size())
+            return true;
+    }
+    return false;
+}
+
+bool isOneType(const QString& entry)
+{
+    return entry.split(QLatin1Char(';'), Qt::SkipEmptyParts).size() == 1;
+}
+
+// A native open panel finds the extensions of a type by its place in the list,
+// and stops the program where there are not as many of the one as of the other.
+QString faultInOpenPanel(const QString& filter)
+{
+    const QString converted = CVyUtils::ConvertToQtFilter(filter);
+    const QStringList fields = converted.split(QLatin1Char('&'));
+    for (int i = 0; i + 1 < fields.size(); i += 2) {
+        const QString& entry = fields.at(i);
+        if (entry.isEmpty())
+            continue;
+        if (!isOneType(entry))
+            return QStringLiteral("the ';' in '%1' would part it into several types").arg(entry);
+        if (!hasExtension(fields.at(i + 1)))
+            return QStringLiteral("'%1' has no extension; '*.*' stands for any file").arg(entry);
+    }
+    return {};
+}
+
+QString readFilter(const QCommandLineParser& parser, Options& options)
+{
+    options.filter = valueOf(parser, "filter");
+    if (options.style != CVyFileDialog::StyleNative || !(options.type & CVyUserIO::FileNameOpen))
+        return {};
+    const QString fault = faultInOpenPanel(options.filter.value_or(QString()));
+    return fault.isEmpty() ? QString()
+                           : QLatin1String("--filter: no type for a native open panel: ") + fault;
+}
+
 QString readForm(const QCommandLineParser& parser, Options& options)
 {
     const bool null = parser.isSet(QStringLiteral("null"));
@@ -208,7 +256,6 @@ void readTexts(const QCommandLineParser& parser, Options& options)
     options.title = parser.value(QStringLiteral("title"));
     options.defaultExtension = parser.value(QStringLiteral("default-extension"));
     options.templateFolder = parser.value(QStringLiteral("template-folder"));
-    options.filter = valueOf(parser, "filter");
     options.templateName = valueOf(parser, "template");
     options.multiple = parser.isSet(QStringLiteral("multiple"));
     if (parser.isSet(QStringLiteral("modes")))
@@ -233,8 +280,8 @@ Parsed parse(const QStringList& arguments)
         return parsed;
     }
     readTexts(parser, parsed.options);
-    for (const auto read : {readRequest, readStartPath, readStyle, readForm, readTypeIndex,
-                            readExpertLevel, readParent}) {
+    for (const auto read : {readRequest, readStartPath, readStyle, readFilter, readForm,
+                            readTypeIndex, readExpertLevel, readParent}) {
         if (parsed.error.isEmpty())
             parsed.error = read(parser, parsed.options);
     }

@@ -11,7 +11,7 @@ namespace {
 constexpr int rowHeight = 30;
 constexpr int controlHeight = 25;
 constexpr int leftMargin = 20;
-constexpr int labelRise = 5; // brings a label's text level with the popup's
+constexpr int labelRise = 5; // what the system's labels want beside a popup
 
 } // namespace
 

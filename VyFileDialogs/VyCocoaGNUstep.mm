@@ -130,6 +130,15 @@ void openFolders(NSMatrix* matrix, NSString* path)
     return panel;
 }
 
+// GNUstep tells keys by the X server's codes, among which that of macOS's Escape
+// key is a letter's.
+- (void)sendEvent:(NSEvent*)event
+{
+    const BOOL hasEscapeCode = [event type] == NSKeyUp && [event keyCode] == 53;
+    if (!hasEscapeCode || [[event characters] isEqualToString:@"\033"])
+        [super sendEvent:event];
+}
+
 // GNUstep goes up to the folder of which an entry has vanished.
 - (void)validateVisibleColumns
 {
@@ -314,6 +323,20 @@ const char* bringUp()
     return reason;
 }
 
+// A panel is made with a connection to the pasteboard server. When that has gone,
+// the first message to it raises, and the next one starts another server: so that
+// no panel fails, the first one is sent from here.
+void findPasteboardServer()
+{
+    NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
+    @try {
+        [[NSPasteboard pasteboardWithName:NSDragPboard] types];
+    } @catch (NSException* exception) {
+        // That was the first one.
+    }
+    [pool drain];
+}
+
 } // namespace
 
 // GNUstep does not recover from a failed attempt, so the display is asked first.
@@ -322,6 +345,8 @@ const char* bringUpAppKit()
     if (!displayAnswers())
         return "no X display answers; see DISPLAY";
     static const char* const reason = bringUp();
+    if (!reason)
+        findPasteboardServer();
     return reason;
 }
 

@@ -5,6 +5,7 @@
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/../../scripts/lib/display.sh"
+source "$here/../support/gnustep.sh"
 
 program=$1
 out=$2
@@ -22,6 +23,7 @@ mkdir -p "$out/home/ann/Plans" "$out/config" "$out/runtime"
 chmod 700 "$out/runtime"
 export HOME=$out/home XDG_CONFIG_HOME=$out/config XDG_RUNTIME_DIR=$out/runtime LC_ALL=C.UTF-8
 unset QT_QPA_PLATFORMTHEME
+own_gnustep_settings "$out/gnustep"
 plans=$out/home/ann/Plans
 
 fail() {
@@ -50,6 +52,7 @@ finish() {
     status=0
     wait_until 'the end of the dialog' 60 dialog_has_ended || fail 'the dialog is still open'
     wait "$dialog" || status=$?
+    dialog=
     answer=$(cat "$out/answer")
     # Qt mentions windows that have gone before it asked the server about them.
     expect 'what is said on standard error' "$(grep -v 'QXcbConnection: XCB error' "$out/errors")" ''
@@ -57,4 +60,14 @@ finish() {
 
 dialog_has_ended() { ! kill -0 "$dialog" 2>/dev/null; }
 
+# A dialog that a failure leaves open goes; one that hangs takes no other end.
+end_test() {
+    local result=$?
+    [[ -z $dialog ]] || kill -KILL "$dialog" 2>/dev/null || true
+    stop_display || true
+    exit "$result"
+}
+
+dialog=
 start_display "$out/display"
+trap end_test EXIT

@@ -2,7 +2,10 @@
 // What the command's arguments mean, and what is said about wrong ones.
 #include "CommandLine.h"
 #include "HostPlatform.h"
+#include "VyFileTypeList.h"
+#include "VyUtils.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <climits>
@@ -46,6 +49,28 @@ Parsed parsed(const QStringList& arguments)
     return parse(QStringList{QStringLiteral("vyfiledialog")} + arguments);
 }
 
+// Whether the module's open panel has an extension list for each of its entries.
+bool suitsOpenPanel(const QString& filter)
+{
+    const VyFileTypeList::Types types =
+        VyFileTypeList::fromConverted(CVyUtils::ConvertToQtFilter(filter));
+    return VyFileTypeList::entries(types.qtFilter).size() ==
+           VyFileTypeList::splitLists(types.extensionLists).size();
+}
+
+// What is said about an entry of the panel.
+QString withoutExtension(const char* entry)
+{
+    return QStringLiteral("'%1' has no extension; '*.*' stands for any file")
+        .arg(QString::fromUtf8(entry));
+}
+
+QString parted(const char* entry)
+{
+    return QStringLiteral("the ';' in '%1' would part it into several types")
+        .arg(QString::fromUtf8(entry));
+}
+
 } // namespace
 
 class CommandLineTest : public QObject
@@ -57,11 +82,15 @@ private Q_SLOTS:
     void understands();
     void rejects_data();
     void rejects();
+    void nativeTypes_data();
+    void nativeTypes();
+    void nativeTypesAmongOtherErrors();
     void numbers_data();
     void numbers();
     void windowNumbers_data();
     void windowNumbers();
     void helpNamesEveryOption();
+    void helpShowsTypesForEveryDialog();
 };
 
 void CommandLineTest::understands_data()
@@ -174,6 +203,88 @@ void CommandLineTest::rejects()
     QTEST(parsed(arguments).error, "error");
 }
 
+// What an open panel of the system would stop the program at, and nothing else.
+void CommandLineTest::nativeTypes_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("fault"); // empty: none
+
+    const auto good = [](const char* name, const char* filter) {
+        QTest::newRow(name) << QString::fromUtf8(filter) << QString();
+    };
+    const auto without = [](const char* name, const char* filter, const char* entry) {
+        QTest::newRow(name) << QString::fromUtf8(filter) << withoutExtension(entry);
+    };
+    const auto apart = [](const char* name, const char* filter, const char* entry) {
+        QTest::newRow(name) << QString::fromUtf8(filter) << parted(entry);
+    };
+    good("one type", "Drawings&*.dwg");
+    good("any file by extension", "Drawings&*.dwg;*.dxf&All files&*.*");
+    good("no types", "");
+    good("separators alone", "&&&");
+    good("separator at the end", "Drawings&*.dwg&");
+    good("empty pair in the middle", "A&*.a&&&B&*.b");
+    good("long extension", "Archives&*.tar.gz");
+    good("empty extension before another", "A&*.;*.a");
+    good("extension before any file", "A&*.a;*");
+    good("without description", "&*.dwg");
+    good("semicolon in parentheses", "Drawings (*.dwg;*.dxf)&*.dwg;*.dxf");
+    good("description of a semicolon", ";&*.dwg");
+    good("semicolon at the end of the entry", "Drawings (;&*.dwg");
+    good("semicolons alone around a parenthesis", ";(;&*.dwg");
+    good("not ASCII", "Zeichnungen für Ämter&*.dwg");
+    without("any file", "All files&*", "All files (*)");
+    without("any file, last", "Drawings&*.dwg&All files&*", "All files (*)");
+    without("any file, first", "All files&*&Drawings&*.dwg", "All files (*)");
+    without("any file before an extension", "A&*;*.a", "A (* *.a)");
+    without("separator before an extension", "A&;*.a", "A ( *.a)");
+    without("empty extension", "A&*.", "A (*.)");
+    without("file name", "Makefiles&Makefile", "Makefiles (Makefile)");
+    without("description alone", "Drawings", "Drawings ()");
+    without("description before an empty field", "Drawings&", "Drawings ()");
+    without("any file, not ASCII", "Ärger&*", "Ärger (*)");
+    apart("semicolon", "Plans; sections&*.dwg", "Plans; sections (*.dwg)");
+    apart("semicolon before parentheses", "A;B (*.dwg)&*.dwg", "A;B (*.dwg)");
+    apart("semicolon behind an open parenthesis", "A(;B&*.dwg", "A(;B");
+    apart("semicolon at the end of the description", "A;&*.a", "A; (*.a)");
+    apart("semicolon, last", "A&*.a&B;C&*.b", "B;C (*.b)");
+    apart("semicolon and no extension", "A;B&*", "A;B (*)");
+    without("the first of two faults", "A&*&B;C&*.b", "A (*)");
+}
+
+void CommandLineTest::nativeTypes()
+{
+    QFETCH(QString, filter);
+    QFETCH(QString, fault);
+    const QString error =
+        fault.isEmpty() ? fault : "--filter: no type for a native open panel: " + fault;
+    QCOMPARE(parsed({"open", "--style", "native", "--filter", filter}).error, error);
+    QCOMPARE(parsed({"open", "--style=native", "--open-only", "--filter", filter}).error, error);
+    QCOMPARE(fault.isEmpty(), suitsOpenPanel(filter));
+
+    for (const char* request : {"save", "new"}) {
+        const Parsed result = parsed({request, "--style", "native", "--filter", filter});
+        QCOMPARE(result.error, QString());
+        QCOMPARE(result.options.filter, std::optional(filter));
+    }
+    QCOMPARE(parsed({"open", "--style", "qt", "--filter", filter}).error, QString());
+}
+
+// The last style counts, and without one the platform's.
+void CommandLineTest::nativeTypesAmongOtherErrors()
+{
+    const QStringList open{"open", "--filter", "All files&*"};
+    const bool nativeByDefault = HostPlatform::defaultStyle() == CVyFileDialog::StyleNative;
+    QCOMPARE(parsed(open).error.isEmpty(), !nativeByDefault);
+    QCOMPARE(parsed(open + QStringList{"--style", "native", "--style", "qt"}).error, QString());
+    QVERIFY(parsed(open + QStringList{"--style", "qt", "--style", "native"})
+                .error.startsWith("--filter: "));
+    QVERIFY(parsed(open + QStringList{"--style", "native", "--json", "--null"})
+                .error.startsWith("--filter: "));
+    QVERIFY(parsed({"--filter", "All files&*", "--style", "native", "opne"})
+                .error.startsWith("'opne' is no request"));
+}
+
 void CommandLineTest::numbers_data()
 {
     QTest::addColumn<bool>("good");
@@ -266,6 +377,14 @@ void CommandLineTest::helpNamesEveryOption()
             QVERIFY2(help.contains(dashes + name), qPrintable(name));
         }
     }
+}
+
+void CommandLineTest::helpShowsTypesForEveryDialog()
+{
+    const QRegularExpression quoted(QStringLiteral("The file types, for example \\s*\"([^\"]+)\""));
+    const QString filter = quoted.match(CommandLine::helpText().simplified()).captured(1);
+    QVERIFY2(filter.contains('&'), qPrintable(filter));
+    QCOMPARE(parsed({"open", "--style", "native", "--filter", filter}).error, QString());
 }
 
 QTEST_GUILESS_MAIN(CommandLineTest)

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void describesEveryOption();
     void namesEveryOptionInTheSynopsis();
     void givesEveryValueAName();
+    void showsTypesForEveryDialog();
     void passesLint();
 
 private:
@@ -86,6 +87,22 @@ void ManualTest::givesEveryValueAName()
                 .arg(name, value.isEmpty() ? QString() : QLatin1String(" Ar ") + value);
         QVERIFY2(m_page.contains(entry), qPrintable(entry));
     }
+}
+
+// The types of the examples suit native panels, in which a reader may try them.
+void ManualTest::showsTypesForEveryDialog()
+{
+    QRegularExpressionMatchIterator filters =
+        QRegularExpression(QStringLiteral("--filter '([^']+)'")).globalMatch(m_page);
+    int count = 0;
+    for (; filters.hasNext(); ++count) {
+        const QString filter = filters.next().captured(1);
+        const CommandLine::Parsed parsed =
+            CommandLine::parse({"vyfiledialog", "open", "--style", "native", "--filter", filter});
+        QCOMPARE(parsed.error, QString());
+        QCOMPARE(parsed.options.filter, std::optional(filter));
+    }
+    QVERIFY(count > 2);
 }
 
 void ManualTest::passesLint()

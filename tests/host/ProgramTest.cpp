@@ -69,11 +69,10 @@ QString line(const char* text)
 }
 
 // What is said when a native panel is asked for and there is no display.
-const QString noPanel =
-    (VY_HAS_NATIVE ? line("VyFileDialogs: no native panel can be shown: "
-                          "no X display answers; see DISPLAY")
-                   : QString()) +
-    line("the dialog cannot be shown (status -5001)");
+const QString noPanel = (VY_HAS_NATIVE ? line("VyFileDialogs: no native panel can be shown: "
+                                              "no X display answers; see DISPLAY")
+                                       : QString()) +
+                        line("the dialog cannot be shown (status -5001)");
 
 } // namespace
 
@@ -88,6 +87,7 @@ private Q_SLOTS:
     void wrongUsage();
     void noDisplay_data();
     void noDisplay();
+    void noDialog_data();
     void noDialog();
     void warns();
     void unwritableOutput_data();
@@ -131,6 +131,10 @@ void ProgramTest::wrongUsage_data()
                                << line("'öffnen' is no request: open, save or new");
     QTest::newRow("style") << QStringList{"open", "--style", "fusion"}
                            << line("--style: 'fusion' is no style: qt or native");
+    QTest::newRow("types that would stop a native panel")
+        << QStringList{"open", "--style", "native", "--filter", "Drawings&*.dwg&All files&*"}
+        << line("--filter: no type for a native open panel: 'All files (*)' has no extension; "
+                "'*.*' stands for any file");
 }
 
 void ProgramTest::wrongUsage()
@@ -169,11 +173,26 @@ void ProgramTest::noDisplay()
     QCOMPARE(outcome.output, QString());
 }
 
+void ProgramTest::noDialog_data()
+{
+    QTest::addColumn<QStringList>("request");
+    QTest::newRow("open") << QStringList{"open"};
+    QTest::newRow("open several") << QStringList{"open", "--multiple", "--modes"};
+    QTest::newRow("open any file") << QStringList{"open", "--filter", "All files&*.*"};
+    QTest::newRow("save") << QStringList{"save"};
+    QTest::newRow("save under a type without extension")
+        << QStringList{"save", "--filter", "All files&*"};
+    QTest::newRow("new") << QStringList{"new"};
+    QTest::newRow("new of a type without extension") << QStringList{"new", "--filter", "All&*"};
+}
+
+// Native panels need a display also where Qt does without.
 void ProgramTest::noDialog()
 {
     if (HostPlatform::defaultStyle() == CVyFileDialog::StyleNative)
         QSKIP("this platform always has a display");
-    const Outcome outcome = run({"open", "--json", "--style", "native"}, offscreen);
+    QFETCH(QStringList, request);
+    const Outcome outcome = run(request + QStringList{"--json", "--style", "native"}, offscreen);
     QCOMPARE(outcome.status, 3);
     QCOMPARE(outcome.errors, noPanel);
     QCOMPARE(outcome.output, QString());

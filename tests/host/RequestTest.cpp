@@ -67,6 +67,7 @@ private Q_SLOTS:
     void presetsTheTemplate();
     void tellsTheServices();
     void qualifiersReachTheDialog();
+    void nativeFailsWithoutDisplay_data();
     void nativeFailsWithoutDisplay();
 
 private:
@@ -271,15 +272,37 @@ void RequestTest::qualifiersReachTheDialog()
              })});
 }
 
+void RequestTest::nativeFailsWithoutDisplay_data()
+{
+    QTest::addColumn<unsigned>("type");
+    QTest::addColumn<bool>("multiple");
+    QTest::newRow("open") << 0x2U << false;
+    QTest::newRow("open several") << 0x2U << true;
+    QTest::newRow("save") << 0x4U << false;
+    QTest::newRow("save several") << 0x4U << true;
+    QTest::newRow("new") << 0x1U << false;
+    QTest::newRow("new several") << 0x1U << true;
+}
+
 void RequestTest::nativeFailsWithoutDisplay()
 {
     if (HostPlatform::defaultStyle() == CVyFileDialog::StyleNative)
         QSKIP("this platform always has a display");
+    QFETCH(unsigned, type);
+    m_options.type = static_cast<CVyUserIO::_FileNameType>(type);
+    QFETCH(bool, multiple);
+    m_options.multiple = multiple;
     m_options.style = CVyFileDialog::StyleNative;
+    m_options.typeIndex = 1;
+    if (VY_HAS_NATIVE)
+        QTest::ignoreMessage(QtWarningMsg, "VyFileDialogs: no native panel can be shown: "
+                                           "no X display answers; see DISPLAY");
     const Answer answer = ask(m_options);
     QCOMPARE(answer.status, VyStatus::Failed);
     QCOMPARE(exitStatus(answer.status), ExitFailure);
     QCOMPARE(answer.paths, QStringList());
+    QVERIFY(!answer.typeIndex);
+    QCOMPARE(answer.codePage, OdCodePageId::Undefined);
 }
 
 QTEST_MAIN(RequestTest)

@@ -20,5 +20,5 @@ void QuietTest::cleanup()
 {
     const QStringList messages = m_log->messages();
     m_log.reset();
-    QCOMPARE(messages, QStringList());
+    QCOMPARE(messages.join(QLatin1Char('\n')), QString());
 }
