@@ -323,20 +323,6 @@ const char* bringUp()
     return reason;
 }
 
-// A panel is made with a connection to the pasteboard server. When that has gone,
-// the first message to it raises, and the next one starts another server: so that
-// no panel fails, the first one is sent from here.
-void findPasteboardServer()
-{
-    NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
-    @try {
-        [[NSPasteboard pasteboardWithName:NSDragPboard] types];
-    } @catch (NSException* exception) {
-        // That was the first one.
-    }
-    [pool drain];
-}
-
 } // namespace
 
 // GNUstep does not recover from a failed attempt, so the display is asked first.
@@ -345,8 +331,6 @@ const char* bringUpAppKit()
     if (!displayAnswers())
         return "no X display answers; see DISPLAY";
     static const char* const reason = bringUp();
-    if (!reason)
-        findPasteboardServer();
     return reason;
 }
 

@@ -21,6 +21,7 @@ constexpr NSTimeInterval tickInterval = 0.02; // seconds
 // may have gone to another window.
 constexpr unsigned ticksForFocus = 150;
 constexpr unsigned ticksBetweenRequests = 5;
+constexpr int pasteboardTries = 3;
 
 Display* display()
 {
@@ -210,12 +211,22 @@ private:
     NSTimer* const m_timer;
 };
 
-// GNUstep would lose the name that was set before the run.
+// GNUstep would lose the name that was set before the run. Selecting a text tells
+// the pasteboard server; when that has ended meanwhile, the message raises, and
+// the next one starts another server.
 NSInteger runTicking(NSSavePanel* panel, NSView* nameField)
 {
     const PopupsInKeyLoop keyLoop(panel, nameField);
     const Ticking ticking(panel);
-    return [panel runModalForDirectory:[panel directory] file:[panel nameFieldStringValue]];
+    for (int tries = pasteboardTries;; --tries) {
+        @try {
+            return [panel runModalForDirectory:[panel directory] file:[panel nameFieldStringValue]];
+        } @catch (NSException* exception) {
+            if (tries <= 1 ||
+                ![[exception name] isEqualToString:NSPasteboardCommunicationException])
+                @throw;
+        }
+    }
 }
 
 } // namespace

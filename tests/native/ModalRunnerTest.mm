@@ -136,7 +136,8 @@ void ModalRunnerTest::answersNoPanelAfterATurnOfTheLoop()
 {
     const int outerLevel = QThread::currentThread()->loopLevel();
     int innerLevel = 0;
-    QTimer::singleShot(0, [&] { innerLevel = QThread::currentThread()->loopLevel(); });
+    const QObject here;
+    QTimer::singleShot(0, &here, [&] { innerLevel = QThread::currentThread()->loopLevel(); });
     QElapsedTimer elapsed;
     elapsed.start();
     QCOMPARE(CVyFileDialogMacDoModal().doModal(nullptr), 0);
@@ -163,12 +164,10 @@ void ModalRunnerTest::runsFromANestedLoopAfterADelay()
         order += "panel";
         return NSInteger(0);
     });
-    QTimer::singleShot(0, [&] { order += "at once"; });
-    QTimer::singleShot(90, [&] { order += "90 ms"; });
-    QTimer late;
-    late.setSingleShot(true);
-    connect(&late, &QTimer::timeout, [&] { order += "150 ms"; });
-    late.start(150);
+    const QObject here;
+    QTimer::singleShot(0, &here, [&] { order += "at once"; });
+    QTimer::singleShot(90, &here, [&] { order += "90 ms"; });
+    QTimer::singleShot(150, &here, [&] { order += "150 ms"; });
     QCOMPARE(doModal(Form(form), panel), 0);
     order = order.mid(0, 3);
     QCOMPARE(order, QStringList({"at once", "90 ms", "panel"}));
@@ -282,7 +281,8 @@ void ModalRunnerTest::takesBackOneOverrideCursor()
     QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     QList<Qt::CursorShape> shapes;
     const auto look = [&shapes] { shapes += QGuiApplication::overrideCursor()->shape(); };
-    QTimer::singleShot(0, look);
+    const QObject here;
+    QTimer::singleShot(0, &here, look);
     doModal(Form(form), standIn([&] {
                 look();
                 return NSInteger(0);

@@ -165,7 +165,8 @@ void NestedRequestTest::isCancelledWhileAnotherWaitsForItsPanel()
     HostRequest outer = firstRequest(first.type);
     HostRequest inner = secondRequest(second);
     int panelsAfterwards = -1;
-    QTimer::singleShot(20, qApp, [&] {
+    const QObject here;
+    QTimer::singleShot(20, &here, [&] {
         several ? inner.getFileNames({}) : inner.getFileName({});
         panelsAfterwards = visiblePanels();
     });
@@ -235,11 +236,12 @@ void NestedRequestTest::everyOneIsCancelled()
 {
     HostRequest outer = firstRequest(CVyUserIO::FileNameOpen);
     std::vector<HostRequest> inner(6, secondRequest(kinds[0]));
-    QTimer::singleShot(0, qApp, [&] {
+    const QObject here;
+    QTimer::singleShot(0, &here, [&] {
         inner[0].getFileName({});
         inner[1].getFileName({});
     });
-    QTimer::singleShot(50, qApp, [&] { inner[2].getFileName({}); });
+    QTimer::singleShot(50, &here, [&] { inner[2].getFileName({}); });
     run(outer, {onPanel([&](NSSavePanel*) {
                     inner[3].getFileName({});
                     inner[4].getFileName({});

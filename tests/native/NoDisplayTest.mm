@@ -168,7 +168,7 @@ void NoDisplayTest::windowsGoOn()
         QTest::keyClick(window.windowHandle(), key);
     QCOMPARE(window.text(), QString("abc"));
     bool fired = false;
-    QTimer::singleShot(0, [&] { fired = true; });
+    QTimer::singleShot(0, &window, [&] { fired = true; });
     QTRY_VERIFY(fired);
 }
 

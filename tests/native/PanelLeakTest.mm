@@ -245,10 +245,10 @@ void PanelLeakTest::sharedSavePanelPointsAtNothing()
                    QVERIFY([panel accessoryView]);
                }),
                accepts ? accept() : cancel()});
-    QCOMPARE([NSSavePanel savePanel], shown);
     QVERIFY(![shown accessoryView]);
     QVERIFY(![shown delegate]);
     QVERIFY(![shown isVisible]);
+    QCOMPARE([NSSavePanel savePanel], shown);
 }
 
 void PanelLeakTest::secondRunForgetsTheFirstController_data()
