@@ -205,10 +205,15 @@ void openFolders(NSMatrix* matrix, NSString* path)
     [self setExtensionHidden:NO];
 }
 
-// GNUstep takes a name that begins with "~" for a path, which "~/" only is.
+// GNUstep takes a name that begins with "~" for a path, which "~/" only is. It
+// would save a name with a backslash under another, in another folder: refused.
 - (void)ok:(id)sender
 {
     NSString* const name = [self nameFieldStringValue];
+    if ([name rangeOfString:@"\\"].location != NSNotFound) {
+        NSBeep();
+        return;
+    }
     if ([name hasPrefix:@"~"] && ![name hasPrefix:@"~/"])
         [self setNameFieldStringValue:[@"./" stringByAppendingString:name]];
     [super ok:sender];

@@ -9,6 +9,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void completesTheName();
     void answersTheName_data();
     void answersTheName();
+    void refusesABackslash();
     void severalAreCompletedByThePanelAlone();
     void asksAboutAnotherExtension_data();
     void asksAboutAnotherExtension();
@@ -343,7 +344,6 @@ void SavePanelTest::answersTheName_data()
     QTest::newRow("newline") << "two\nlines";
     QTest::newRow("tilde") << "~plan.dwg";
     QTest::newRow("drive letter") << "C:plan";
-    QTest::newRow("backslash") << "a\\b";
 }
 
 // No part of a name is the name of a folder.
@@ -357,6 +357,17 @@ void SavePanelTest::answersTheName()
     run(save, {chooseType(2), typeName(name), accept()});
     QCOMPARE(save.paths, QStringList(path(name)));
     QCOMPARE(bookmarkedPaths(), QStringList(path(name)));
+}
+
+// It would be saved in the folder "a".
+void SavePanelTest::refusesABackslash()
+{
+    addFolder("a");
+    HostRequest save = request(CVyUserIO::FileNameSave);
+    run(save, {typeName("a\\b"), accept(),
+               onPanel([](NSSavePanel* panel) { QVERIFY([panel isVisible]); }), cancel()});
+    QCOMPARE(save.status, -5002);
+    QCOMPARE(save.paths, QStringList());
 }
 
 void SavePanelTest::severalAreCompletedByThePanelAlone()
