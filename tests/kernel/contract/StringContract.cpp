@@ -17,7 +17,7 @@ const QString smile = QStringLiteral("\U0001F600");
 } // namespace
 
 /// The operations on a host's string.
-class StringTest : public QObject
+class StringContract : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void replaces();
 };
 
-void StringTest::splits_data()
+void StringContract::splits_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<char>("separator");
@@ -59,7 +59,7 @@ void StringTest::splits_data()
         << QString(smile + "&" + smile) << '&' << QStringList{smile, smile};
 }
 
-void StringTest::splits()
+void StringContract::splits()
 {
     QFETCH(QString, text);
     QFETCH(char, separator);
@@ -67,7 +67,7 @@ void StringTest::splits()
     QCOMPARE(toStringList(CVyString(text).SplitA(separator)), parts);
 }
 
-void StringTest::finds_data()
+void StringContract::finds_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("wanted");
@@ -113,7 +113,7 @@ void StringTest::finds_data()
     QTest::newRow("behind a wide character") << QString(smile + "a") << "a" << 0 << 1;
 }
 
-void StringTest::finds()
+void StringContract::finds()
 {
     QFETCH(QString, text);
     QFETCH(QString, wanted);
@@ -125,7 +125,7 @@ void StringTest::finds()
         QCOMPARE(CVyString(text).findA(wanted.toLatin1()), position);
 }
 
-void StringTest::findsTheLast_data()
+void StringContract::findsTheLast_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("wanted");
@@ -149,7 +149,7 @@ void StringTest::findsTheLast_data()
     QTest::newRow("behind a wide character") << QString(smile + "aa") << "a" << 2;
 }
 
-void StringTest::findsTheLast()
+void StringContract::findsTheLast()
 {
     QFETCH(QString, text);
     QFETCH(QString, wanted);
@@ -157,7 +157,7 @@ void StringTest::findsTheLast()
     QCOMPARE(CVyString(text).reverseFindA(wanted.toLatin1()), position);
 }
 
-void StringTest::takesTheLeft_data()
+void StringContract::takesTheLeft_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
@@ -174,7 +174,7 @@ void StringTest::takesTheLeft_data()
     QTest::newRow("a wide character") << QString(smile + "ab") << 1 << smile;
 }
 
-void StringTest::takesTheLeft()
+void StringContract::takesTheLeft()
 {
     QFETCH(QString, text);
     QFETCH(int, count);
@@ -182,7 +182,7 @@ void StringTest::takesTheLeft()
     QCOMPARE(QString(CVyString(text).left(count)), part);
 }
 
-void StringTest::takesTheMiddle_data()
+void StringContract::takesTheMiddle_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("first");
@@ -205,7 +205,7 @@ void StringTest::takesTheMiddle_data()
     QTest::newRow("behind a wide character") << QString(smile + "ab") << 1 << 1 << "a";
 }
 
-void StringTest::takesTheMiddle()
+void StringContract::takesTheMiddle()
 {
     QFETCH(QString, text);
     QFETCH(int, first);
@@ -217,7 +217,7 @@ void StringTest::takesTheMiddle()
         QCOMPARE(QString(CVyString(text).mid(first)), part);
 }
 
-void StringTest::trimsTheEnd_data()
+void StringContract::trimsTheEnd_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("trimmed");
@@ -247,7 +247,7 @@ void StringTest::trimsTheEnd_data()
     QTest::newRow("behind a wide character") << QString(smile + " ") << smile;
 }
 
-void StringTest::trimsTheEnd()
+void StringContract::trimsTheEnd()
 {
     QFETCH(QString, text);
     QFETCH(QString, trimmed);
@@ -257,7 +257,7 @@ void StringTest::trimsTheEnd()
     QCOMPARE(QString(string), trimmed);
 }
 
-void StringTest::replaces_data()
+void StringContract::replaces_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("before");
@@ -322,7 +322,7 @@ void StringTest::replaces_data()
                                              << "--" << QString(smile + "--" + smile);
 }
 
-void StringTest::replaces()
+void StringContract::replaces()
 {
     QFETCH(QString, text);
     QFETCH(QString, before);
@@ -334,5 +334,5 @@ void StringTest::replaces()
     QCOMPARE(QString(string), replaced);
 }
 
-QTEST_GUILESS_MAIN(StringTest)
-#include "StringTest.moc"
+QTEST_GUILESS_MAIN(StringContract)
+#include "StringContract.moc"

@@ -13,7 +13,7 @@ QString convert(const QString& filter)
 } // namespace
 
 /// A host's filter string, turned into name-filter entries with their patterns.
-class FilterTest : public QObject
+class FilterContract : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ private:
 
 // One pair each: its name-filter entry is what the table is about, so the rows
 // name description, patterns and entry alone.
-void FilterTest::converts_data()
+void FilterContract::converts_data()
 {
     QTest::addColumn<QString>("description");
     QTest::addColumn<QString>("patterns");
@@ -59,7 +59,7 @@ void FilterTest::converts_data()
     separatorRows();
 }
 
-void FilterTest::parenthesesRows()
+void FilterContract::parenthesesRows()
 {
     QTest::newRow("words in parentheses") << "Drawing (dwg)"
                                           << "*.dwg"
@@ -129,7 +129,7 @@ void FilterTest::parenthesesRows()
                                              << "A (*.a))";
 }
 
-void FilterTest::wildcardRows()
+void FilterContract::wildcardRows()
 {
     QTest::newRow("patterns of its own") << "Drawing (*.dwg;*.dxf)"
                                          << "*.dwg;*.dxf"
@@ -172,7 +172,7 @@ void FilterTest::wildcardRows()
                                               << "A (?.a)";
 }
 
-void FilterTest::separatorRows()
+void FilterContract::separatorRows()
 {
     QTest::newRow("comma in the parentheses") << "A (x,y*)"
                                               << "p"
@@ -237,7 +237,7 @@ void FilterTest::separatorRows()
                                                         << "A (*.a)";
 }
 
-void FilterTest::converts()
+void FilterContract::converts()
 {
     QFETCH(QString, description);
     QFETCH(QString, patterns);
@@ -245,7 +245,7 @@ void FilterTest::converts()
     QCOMPARE(convert(description + "&" + patterns), QString(entry + "&" + patterns + "&&"));
 }
 
-void FilterTest::walksThePairs_data()
+void FilterContract::walksThePairs_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("converted");
@@ -296,14 +296,14 @@ void FilterTest::walksThePairs_data()
                                        << "A (*.a *.b)&*.a;*.b&&";
 }
 
-void FilterTest::walksThePairs()
+void FilterContract::walksThePairs()
 {
     QFETCH(QString, filter);
     QFETCH(QString, converted);
     QCOMPARE(convert(filter), converted);
 }
 
-void FilterTest::keepsOddCharacters_data()
+void FilterContract::keepsOddCharacters_data()
 {
     QTest::addColumn<QString>("text");
 
@@ -323,7 +323,7 @@ void FilterTest::keepsOddCharacters_data()
     QTest::newRow("backslash") << "a\\b";
 }
 
-void FilterTest::keepsOddCharacters()
+void FilterContract::keepsOddCharacters()
 {
     QFETCH(QString, text);
 
@@ -331,7 +331,7 @@ void FilterTest::keepsOddCharacters()
     QCOMPARE(convert(text + " (*." + text + ")&x"), QString(text + " (*." + text + ")&x&&"));
 }
 
-void FilterTest::convertsManyTypes()
+void FilterContract::convertsManyTypes()
 {
     const int count = 100000;
     const QString converted = convert(QString("T&*.t&").repeated(count));
@@ -340,7 +340,7 @@ void FilterTest::convertsManyTypes()
     QVERIFY(converted.endsWith("&T (*.t)&*.t&&"));
 }
 
-void FilterTest::convertsLongTexts_data()
+void FilterContract::convertsLongTexts_data()
 {
     QTest::addColumn<QString>("part");
     QTest::addColumn<QString>("end");
@@ -356,7 +356,7 @@ void FilterTest::convertsLongTexts_data()
                                          << "";
 }
 
-void FilterTest::convertsLongTexts()
+void FilterContract::convertsLongTexts()
 {
     QFETCH(QString, part);
     QFETCH(QString, end);
@@ -365,5 +365,5 @@ void FilterTest::convertsLongTexts()
     QCOMPARE(convert(description + "&*.a"), QString(description + end + "&*.a&&"));
 }
 
-QTEST_GUILESS_MAIN(FilterTest)
-#include "FilterTest.moc"
+QTEST_GUILESS_MAIN(FilterContract)
+#include "FilterContract.moc"

@@ -96,7 +96,7 @@ const QString Nothing;
 
 } // namespace
 
-class LockTest : public QObject
+class LockContract : public QObject
 {
     Q_OBJECT
 
@@ -112,7 +112,7 @@ private Q_SLOTS:
     void survivesALockedWindow();
 };
 
-void LockTest::takesTheUserAway()
+void LockContract::takesTheUserAway()
 {
     HostWindow window;
     QCOMPARE(window.takes(), Everything);
@@ -122,7 +122,7 @@ void LockTest::takesTheUserAway()
     QCOMPARE(window.takes(), Everything);
 }
 
-void LockTest::leavesTheUsableWindow()
+void LockContract::leavesTheUsableWindow()
 {
     HostWindow locked;
     HostWindow usable;
@@ -131,7 +131,7 @@ void LockTest::leavesTheUsableWindow()
     QCOMPARE(usable.takes(), Everything);
 }
 
-void LockTest::leavesWindowsOpenedLater()
+void LockContract::leavesWindowsOpenedLater()
 {
     HostWindow locked;
     const CVyAppModalLock lock(nullptr);
@@ -140,7 +140,7 @@ void LockTest::leavesWindowsOpenedLater()
     QCOMPARE(locked.takes(), Nothing);
 }
 
-void LockTest::unlocksTwice()
+void LockContract::unlocksTwice()
 {
     HostWindow window;
     CVyAppModalLock outer(nullptr);
@@ -152,7 +152,7 @@ void LockTest::unlocksTwice()
     QCOMPARE(window.takes(), Everything);
 }
 
-void LockTest::unlocksWithItsScope()
+void LockContract::unlocksWithItsScope()
 {
     HostWindow window;
     {
@@ -162,14 +162,14 @@ void LockTest::unlocksWithItsScope()
     QCOMPARE(window.takes(), Everything);
 }
 
-void LockTest::nests_data()
+void LockContract::nests_data()
 {
     QTest::addColumn<bool>("innerFirst");
     QTest::newRow("inner released first") << true;
     QTest::newRow("outer released first") << false;
 }
 
-void LockTest::nests()
+void LockContract::nests()
 {
     QFETCH(bool, innerFirst);
     HostWindow window;
@@ -181,7 +181,7 @@ void LockTest::nests()
     QCOMPARE(window.takes(), Everything);
 }
 
-void LockTest::changesNoWindow()
+void LockContract::changesNoWindow()
 {
     HostWindow window;
     QWidget disabled;
@@ -200,7 +200,7 @@ void LockTest::changesNoWindow()
     QCOMPARE(QApplication::focusWidget(), window.edit);
 }
 
-void LockTest::survivesALockedWindow()
+void LockContract::survivesALockedWindow()
 {
     auto window = std::make_unique<HostWindow>();
     CVyAppModalLock lock(nullptr);
@@ -209,5 +209,5 @@ void LockTest::survivesALockedWindow()
     QCOMPARE(later.takes(), Everything);
 }
 
-QTEST_MAIN(LockTest)
-#include "LockTest.moc"
+QTEST_MAIN(LockContract)
+#include "LockContract.moc"

@@ -1,0 +1,36 @@
+# SPDX-License-Identifier: MIT
+# How a test is added.
+set(vy_tests ${CMAKE_CURRENT_LIST_DIR}/../tests)
+
+# vy_add_test(<name> <sources>... [LINK <libraries>...] [DISPLAY]): one Qt Test
+# program, run on the offscreen platform, or with DISPLAY in real windows on a
+# virtual display, with settings and home folder of its own. It is linked with
+# VY_TEST_LIBRARIES, which a folder of tests sets for all of its own.
+function(vy_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "LINK")
+    add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+    vy_target(${name})
+    # QSKIP(text) leaves a variadic macro without arguments.
+    target_compile_options(${name} PRIVATE
+        $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
+    target_link_libraries(${name} PRIVATE ${VY_TEST_LIBRARIES} ${arg_LINK} Qt5::Test)
+    if(arg_DISPLAY)
+        add_test(NAME ${name}
+            COMMAND ${vy_tests}/support/with-display.sh
+                    ${CMAKE_CURRENT_BINARY_DIR}/${name}.display $<TARGET_FILE:${name}>)
+        set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+    endif()
+    vy_test_environment(${name})
+endfunction()
+
+# vy_test_environment(<test>): what every test runs in.
+function(vy_test_environment name)
+    set(home ${CMAKE_CURRENT_BINARY_DIR}/${name}.home)
+    file(MAKE_DIRECTORY ${home})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 300
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;DISPLAY=;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;LC_ALL=C.UTF-8;QT_LOGGING_RULES=;LSAN_OPTIONS=suppressions=${vy_tests}/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1"
+        SKIP_REGULAR_EXPRESSION "^SKIP[ ]+:.*the folder shared/samples is not there")
+endfunction()
