@@ -232,10 +232,7 @@ QString readTypeIndex(const QCommandLineParser& parser, Options& options)
 
 QString readExpertLevel(const QCommandLineParser& parser, Options& options)
 {
-    std::optional<int> level;
-    QString error = readNumber(parser, "expert-level", level);
-    options.expertLevel = level.value_or(0);
-    return error;
+    return readNumber(parser, "expert-level", options.expertLevel);
 }
 
 QString readParent(const QCommandLineParser& parser, Options& options)

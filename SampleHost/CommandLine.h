@@ -39,7 +39,7 @@ struct Options
     QString startPath;
     QString templateFolder;    ///< empty for the library's own
     unsigned parentWindow = 0; ///< 0 for none
-    int expertLevel = 0;
+    std::optional<int> expertLevel;
     std::optional<QString> filter;
     std::optional<QString> templateName;
     std::optional<int> typeIndex;

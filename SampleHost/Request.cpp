@@ -18,7 +18,8 @@ using GetPaths = int (*)(CVyUserIO::_FileNameRetVal*, Paths*, unsigned long long
 void tellServices(const Options& options)
 {
     CVySystemServices* services = GetVySystemServices();
-    services->GetSettings().SetExpertLevel(options.expertLevel);
+    if (options.expertLevel)
+        services->GetSettings().SetExpertLevel(*options.expertLevel);
     if (!options.templateFolder.isEmpty())
         services->SetTemplateFolder(QFileInfo(options.templateFolder).absoluteFilePath());
 }

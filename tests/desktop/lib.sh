@@ -69,5 +69,5 @@ end_test() {
 }
 
 dialog=
-start_display "$out/display"
+start_display "$out/display" "${screen:-}"
 trap end_test EXIT

@@ -37,7 +37,7 @@ QStringList told(const Options& options)
     tell(!options.startPath.isEmpty(), "start", options.startPath);
     tell(!options.templateFolder.isEmpty(), "templates", options.templateFolder);
     tell(options.parentWindow != 0, "parent", QString::number(options.parentWindow));
-    tell(options.expertLevel != 0, "expert", QString::number(options.expertLevel));
+    tell(options.expertLevel.has_value(), "expert", QString::number(options.expertLevel.value_or(0)));
     tell(options.filter.has_value(), "filter", options.filter.value_or(QString()));
     tell(options.templateName.has_value(), "template", options.templateName.value_or(QString()));
     tell(options.typeIndex.has_value(), "index", QString::number(options.typeIndex.value_or(0)));
@@ -323,7 +323,7 @@ void CommandLineTest::numbers()
     }
     if (good) {
         QTEST(*parsed({"open", "--type-index", text}).options.typeIndex, "value");
-        QTEST(parsed({"open", "--expert-level", text}).options.expertLevel, "value");
+        QTEST(*parsed({"open", "--expert-level", text}).options.expertLevel, "value");
     }
 }
 

@@ -168,11 +168,12 @@ void PreviewTest::sample()
 
 void PreviewTest::ownDrawing_data()
 {
-    const QDir folder(QStringLiteral(VY_EXAMPLES_DIR));
+    const QDir examples(QStringLiteral(VY_EXAMPLES_DIR));
     QTest::addColumn<QString>("path");
     const QFileInfoList files =
-        folder.entryInfoList({QStringLiteral("*.dxf"), QStringLiteral("*.dwt")}, QDir::Files);
-    QVERIFY(files.size() >= 4);
+        QDir(examples.filePath("drawings")).entryInfoList({QStringLiteral("*.dxf")}) +
+        QDir(examples.filePath("templates")).entryInfoList({QStringLiteral("*.dwt")});
+    QVERIFY(files.size() >= 5);
     for (const QFileInfo& file : files)
         QTest::newRow(qPrintable(file.fileName())) << file.absoluteFilePath();
 }

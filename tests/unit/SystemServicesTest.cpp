@@ -48,7 +48,7 @@ void SystemServicesTest::cleanup()
 {
     qputenv("XDG_DATA_HOME", m_dataHome);
     services().SetTemplateFolder(CVyString());
-    services().GetSettings().SetExpertLevel(0);
+    services().GetSettings().ResetExpertLevel();
 }
 
 void SystemServicesTest::areTheSameForAll()
