@@ -250,7 +250,7 @@ void HostSettingsTest::warnsOfTheFile_data()
     QTest::newRow("comma") << QByteArray("[Dialogs]\nExpertLevel=1,2\n")
                            << QByteArray("Dialogs/ExpertLevel in '.*settings.ini': a value with a "
                                          "comma needs quotation marks around it");
-    QTest::newRow("no settings") << QByteArray("what is this\nno equals sign\n")
+    QTest::newRow("no settings") << QByteArray("[Dialogs]\nno equals sign\n")
                                  << QByteArray(noSettings);
     QTest::newRow("too large")
         << QByteArray("[Dialogs]\nExpertLevel=2\n" + QByteArray(64 * 1024, ';'))
@@ -263,7 +263,7 @@ void HostSettingsTest::warnsOfTheFile()
     QFETCH(QByteArray, warning);
 
     write(userFile(), content);
-    expectWarning(("^VyHostKernel: " + warning + "$").constData());
+    expectWarning(QByteArray("^VyHostKernel: " + warning + "$").constData());
     QCOMPARE(expertLevel(), 0);
 }
 
