@@ -4,9 +4,10 @@
 #include "VyPreviewImage.h"
 #include "VyPreviewSource.h"
 
-#include <QByteArray>
+#include <QByteArrayMatcher>
 
 #include <algorithm>
+#include <vector>
 
 namespace VyDxfPreview {
 
@@ -66,15 +67,18 @@ bool isSectionName(const QByteArray& text, int start)
            lines.next() == "THUMBNAILIMAGE";
 }
 
-// Where the name of the last preview section stands; -1 without a section.
+// Where the name of the last preview section stands; -1 without a section. The
+// places are looked for forwards: a matcher skips most of the text, which a
+// search from the end would go through byte by byte.
 int sectionName(const QByteArray& text)
 {
-    const QByteArray line = "\nTHUMBNAILIMAGE";
-    for (int at = text.lastIndexOf(line); at > 0; at = text.lastIndexOf(line, at - 1)) {
-        if (isSectionName(text, at + 1))
-            return at + 1;
-    }
-    return -1;
+    const QByteArrayMatcher line("\nTHUMBNAILIMAGE");
+    std::vector<int> starts;
+    for (int at = line.indexIn(text); at >= 0; at = line.indexIn(text, at + 1))
+        starts.push_back(at + 1);
+    const auto last = std::find_if(starts.rbegin(), starts.rend(),
+                                   [&text](int start) { return isSectionName(text, start); });
+    return last == starts.rend() ? -1 : *last;
 }
 
 bool isHexadecimal(const QByteArray& text)
