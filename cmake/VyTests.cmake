@@ -2,10 +2,19 @@
 # How a test is added.
 set(vy_tests ${CMAKE_CURRENT_LIST_DIR}/../tests)
 
+# vy_test_library(<name> <header>...): what the programs of a folder share. They
+# are compiled again and again and run once, hence without optimisation, and with
+# Qt's headers read beforehand.
+function(vy_test_library name)
+    vy_target(${name})
+    target_compile_options(${name} PUBLIC -O0)
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+
 # vy_add_test(<name> <sources>... [LINK <libraries>...] [DISPLAY]): one Qt Test
 # program, run on the offscreen platform, or with DISPLAY in real windows on a
 # virtual display, with settings and home folder of its own. It is linked with
-# VY_TEST_LIBRARIES, which a folder of tests sets for all of its own.
+# VY_TEST_LIBRARY, which a folder of tests sets for all of its own.
 function(vy_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "LINK")
     add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
@@ -13,7 +22,8 @@ function(vy_add_test name)
     # QSKIP(text) leaves a variadic macro without arguments.
     target_compile_options(${name} PRIVATE
         $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
-    target_link_libraries(${name} PRIVATE ${VY_TEST_LIBRARIES} ${arg_LINK} Qt5::Test)
+    target_link_libraries(${name} PRIVATE ${VY_TEST_LIBRARY} ${arg_LINK} Qt5::Test)
+    target_precompile_headers(${name} REUSE_FROM ${VY_TEST_LIBRARY})
     if(arg_DISPLAY)
         add_test(NAME ${name}
             COMMAND ${vy_tests}/support/with-display.sh
