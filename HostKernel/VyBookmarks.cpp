@@ -1,39 +1,102 @@
 // SPDX-License-Identifier: MIT
 #include "VyBookmarks.h"
 
-#include <algorithm>
+#include "VyBookmarkEntry.h"
+#include "VyBookmarkList.h"
+#include "VyFileSearch.h"
+#include "VySystemBookmark.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <optional>
 
 namespace {
 
-constexpr int mostBookmarks = 100;
-
-QList<VyBookmark>& bookmarks()
+std::optional<QString>& namedFile()
 {
-    static QList<VyBookmark> list;
+    static std::optional<QString> file;
+    return file;
+}
+
+std::unique_ptr<CVyBookmarkList>& usedList()
+{
+    static std::unique_ptr<CVyBookmarkList> list;
     return list;
+}
+
+bool isFolderName(const QString& name)
+{
+    return name != QLatin1String(".") && name != QLatin1String("..") &&
+           !name.contains(QLatin1Char('/')) && !name.contains(QDir::separator());
+}
+
+// Empty where there is no folder that is the application's own.
+QString defaultFile()
+{
+    const QString application = QCoreApplication::applicationName();
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (application.isEmpty() || folder.isEmpty() || !isFolderName(application) ||
+        !isFolderName(QCoreApplication::organizationName())) {
+        qWarning("VyHostKernel: bookmarks: kept in memory alone, since the application has no "
+                 "folder for its data that its name makes its own");
+        return {};
+    }
+    if (!VyFileSearch::isOwn(QFile::encodeName(folder))) {
+        qWarning("VyHostKernel: bookmarks: kept in memory alone, since %s belongs to another user",
+                 qPrintable(folder));
+        return {};
+    }
+    return folder + QStringLiteral("/bookmarks.jsonl");
+}
+
+CVyBookmarkList& list()
+{
+    std::unique_ptr<CVyBookmarkList>& used = usedList();
+    if (!used)
+        used = std::make_unique<CVyBookmarkList>(namedFile() ? *namedFile() : defaultFile());
+    return *used;
 }
 
 } // namespace
 
+bool VySetBookmarkFile(const QString& file)
+{
+    if (usedList()) {
+        qWarning("VyHostKernel: bookmarks: the file is named too late, the list has been used");
+        return false;
+    }
+    namedFile() = file.isEmpty() ? QString() : QDir::current().absoluteFilePath(file);
+    return true;
+}
+
 QList<VyBookmark> VyBookmarks()
 {
-    return bookmarks();
+    return list().bookmarks();
 }
 
 void VyAddBookmark(const QString& path)
 {
-    if (path.isEmpty())
-        return;
-    QList<VyBookmark>& list = bookmarks();
-    list.erase(std::remove_if(list.begin(), list.end(),
-                              [&path](const VyBookmark& known) { return known.path == path; }),
-               list.end());
-    list.prepend({path, QDateTime::currentDateTimeUtc()});
-    while (list.size() > mostBookmarks)
-        list.removeLast();
+    list().add({path, {}, {}});
+}
+
+void VyAddBookmarkOfBytes(const QByteArray& path)
+{
+    list().add(vyBookmarkOfBytes(path));
 }
 
 void VyClearBookmarks()
 {
-    bookmarks().clear();
+    list().clear();
 }
+
+CVyBookmarkedFile::CVyBookmarkedFile(const VyBookmark& bookmark)
+{
+    const VyBookmark found = list().find(bookmark, m_access);
+    m_path = found.path;
+    m_bytes = found.bytes;
+}
+
+CVyBookmarkedFile::~CVyBookmarkedFile() = default;
