@@ -5,6 +5,9 @@
 #include "VyMacDocumentController.h"
 #include "VyNativeStrings.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace {
 
 VyMacDocumentController* controller()
@@ -33,6 +36,9 @@ class DocumentControllerTest : public NativeTest
 {
     Q_OBJECT
 
+public:
+    DocumentControllerTest() { VySetBookmarkFile(store()); }
+
 private Q_SLOTS:
     void isOneForAll();
     void notesFiles_data();
@@ -44,6 +50,13 @@ private Q_SLOTS:
     void ignoresOtherUrls();
     void putsTheLatestFirst();
     void keepsAHundred();
+    void keepsThemForTheNextRun();
+    void refusesALongPath();
+
+private:
+    QString store() const { return m_store.filePath("bookmarks.jsonl"); }
+
+    QTemporaryDir m_store;
 };
 
 void DocumentControllerTest::isOneForAll()
@@ -175,6 +188,26 @@ void DocumentControllerTest::keepsAHundred()
         [controller() createBookmark:fileUrl(latestFirst.constFirst())];
     }
     QCOMPARE(bookmarks(), QStringList(latestFirst.mid(0, 100)));
+}
+
+void DocumentControllerTest::keepsThemForTheNextRun()
+{
+    addFile("a.dwg");
+    [controller() createBookmark:fileUrl(path("a.dwg"))];
+    QFile file(store());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().split('\n');
+    QCOMPARE(lines.size(), 3);
+    const QJsonObject entry = QJsonDocument::fromJson(lines[1]).object();
+    QCOMPARE(entry.value("path").toString(), path("a.dwg"));
+    QVERIFY(entry.value("file").toObject().contains("inode"));
+}
+
+void DocumentControllerTest::refusesALongPath()
+{
+    [controller() createBookmark:fileUrl(QString("/" + QString("x").repeated(8192)))];
+    QCOMPARE(bookmarks(), QStringList());
+    QCOMPARE(takeMessages().size(), 1);
 }
 
 QTEST_MAIN(DocumentControllerTest)
