@@ -174,7 +174,7 @@ QString CVyBookmarkList::saveChange(const std::function<void()>& change)
     };
     if (!VyBookmarkStore::makeFolder(m_file))
         return unsaved(QStringLiteral("its folder cannot be made"));
-    const QString lockFile = VyBookmarkStore::lockFile(m_file);
+    const QString lockFile = m_file + QStringLiteral(".lock");
     if (!canBeLock(lockFile))
         return unsaved(lockFile + QStringLiteral(" is not a file"));
     QLockFile lock(lockFile);

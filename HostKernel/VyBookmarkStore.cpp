@@ -16,14 +16,6 @@ bool isThere(const QString& path)
     return info.exists() || info.isSymLink();
 }
 
-// A link to a regular file is written through; one to anything else is itself
-// what is wrong.
-QString target(const QString& file)
-{
-    const QFileInfo info(file);
-    return info.isFile() ? info.canonicalFilePath() : file;
-}
-
 // QFile::rename() does not rename a link that leads nowhere.
 bool rename(const QString& from, const QString& to)
 {
@@ -116,26 +108,21 @@ VyBookmarkFormat::Contents read(const QString& file)
 Written write(const QString& file, const QList<VyBookmarkEntry>& entries, bool keepOld)
 {
     Written written;
-    const QString where = target(file);
-    const bool keeps = keepOld && isThere(where);
+    const bool keeps = keepOld && isThere(file);
     if (keeps) {
-        const QString kept = keptName(where, 1);
-        if (!makeRoom(where, written.replaced) || !rename(where, kept)) {
+        // Of a link, itself: what it leads to may be anybody's file.
+        const QString kept = keptName(file, 1);
+        if (!makeRoom(file, written.replaced) || !rename(file, kept)) {
             written.problem = QStringLiteral("the damaged file cannot be kept beside it");
             return written;
         }
         written.keptAs = kept;
     }
-    if (!save(where, VyBookmarkFormat::write(entries), written.problem) && keeps) {
-        rename(written.keptAs, where);
+    if (!save(file, VyBookmarkFormat::write(entries), written.problem) && keeps) {
+        rename(written.keptAs, file);
         written.keptAs.clear();
     }
     return written;
-}
-
-QString lockFile(const QString& file)
-{
-    return target(file) + QStringLiteral(".lock");
 }
 
 bool makeFolder(const QString& file)

@@ -20,11 +20,8 @@ struct Written
 };
 
 /// Replaces \a file, or what it is a link to, in one step. With \a keepOld the
-/// old file is kept beside the new one.
+/// old file, or the link, is kept beside the new one.
 Written write(const QString& file, const QList<VyBookmarkEntry>& entries, bool keepOld);
-
-/// The file to lock while \a file is changed, the same for all links to it.
-QString lockFile(const QString& file);
 
 /// Makes the folder that \a file is in, with those above it.
 bool makeFolder(const QString& file);

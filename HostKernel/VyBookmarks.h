@@ -97,13 +97,15 @@ class CVySystemBookmark;
 /// the first 1000. In all these cases a warning says what was lost, and the
 /// file is kept as it was beside the new one, which is written at once: with
 /// ".damaged-1" after its name, where an earlier one has become ".damaged-2", and
-/// so on up to 5; a warning says when the fifth is deleted to make room. A
-/// process that still has the list in memory loses nothing. No such file, or an
-/// intact one without entries, is an empty list.
+/// so on up to 5; a warning says when the fifth is deleted to make room. A link to
+/// an intact file is written through; one to a damaged file is itself what is
+/// kept, and the file that it leads to is left alone. A process that still has the list in memory
+/// loses nothing. No such file, or an intact one without entries, is an empty list.
 ///
-/// Beside the file there is another one with ".lock" after its name while it is
-/// being written, and after a crash in that moment one with a dot and six
-/// letters, which nothing reads.
+/// Beside the file, or the link, there is another one with ".lock" after its name
+/// while it is being written; all processes should therefore take the same path.
+/// After a crash in that moment there may be one with a dot and six letters, which
+/// nothing reads.
 
 /// A file that the user chose.
 struct VyBookmark
