@@ -5,9 +5,11 @@
 
 #include <vector>
 
-/// Code pages that a drawing file can declare. The values are the numbers that
-/// DWG files store; the names are those of the DXF header variable
-/// $DWGCODEPAGE.
+/// Code pages that a drawing's text can be in. The values up to Ansi1258 are the
+/// numbers that DWG files store; the names are those of the DXF header variable
+/// $DWGCODEPAGE. Utf8 is behind them with a number of our own: no drawing stores
+/// one for it, but text DXF files from version AC1021 on are written in it,
+/// whatever page they declare.
 ///
 /// Source: the DXF reference, section "HEADER", for the names; the published
 /// description of the DWG file format, file header, for the numbers.
@@ -58,20 +60,40 @@ enum class OdCodePageId : int
     Ansi1361 = 42,
     Utf16 = 43,
     Ansi1258 = 44,
+    Utf8 = 45,
 };
 
-/// One row of the code-page list.
+/// A heading of the code-page list. The texts are English, and keys of their
+/// translations in the context "CVyDlgEncoding".
+struct CVyCodePageRegion
+{
+    const char* name;      ///< "Cyrillic"
+    const char* languages; ///< that people look for: "Bulgarian, Russian"
+};
+
+/// One row of the code-page list. The texts are never null and never empty, and
+/// live as long as the library.
 struct CVyCodePage
 {
     OdCodePageId id;
-    const char* fileName; ///< as drawings declare it, for example "ANSI_1252"
-    const char*
-        description; ///< what a drafter calls it, English, UTF-8; the key of its translation
+    const CVyCodePageRegion* region; ///< one object for all pages of a region; never null
+    /// What a drafter calls it, "Japanese Shift-JIS (Windows)": English, and the
+    /// key of its translation in the context "CVyDlgEncoding".
+    const char* description;
+    const char* fileName; ///< as drawings declare it: "ANSI_932"
+    /// What others call it, the character-set names of IANA and their aliases,
+    /// divided by blanks: "windows-31j Shift_JIS". QTextCodec may know the page by
+    /// any of them, the better match first.
+    const char* otherNames;
 };
 
-/// Every code page but OdCodePageId::Undefined, in the order of the numbers.
-/// The list lives as long as the library.
+/// Every code page but OdCodePageId::Undefined, each once, as people look for
+/// them: the pages of a region stand together, the commoner ones before the others.
 VY_HOSTKERNEL_EXPORT const std::vector<CVyCodePage>& VyCodePages();
+
+/// The page's row in the list; null for OdCodePageId::Undefined and for numbers
+/// outside the list.
+VY_HOSTKERNEL_EXPORT const CVyCodePage* VyFindCodePage(OdCodePageId id);
 
 /// The page's name in drawings ("ANSI_1252"); null for OdCodePageId::Undefined
 /// and for numbers outside the list.
