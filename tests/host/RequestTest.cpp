@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the command asks of the dialogs, and what it takes from their answer.
 #include "Request.h"
+#include "CodePages.h"
 #include "HostPlatform.h"
 #include "HostRequest.h"
 #include "VySystemServices.h"
@@ -8,7 +9,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -162,13 +162,13 @@ void RequestTest::opensWithEncoding()
 {
     m_options.flags = CVyUserIO::FileNameModeChoices;
     const DialogDriver::Step choosePage = [](QDialog& dialog) {
-        dialog.findChild<QListWidget*>()->setCurrentRow(3);
+        chooseCodePage(dialog, OdCodePageId::Iso8859_4);
         dialog.accept();
     };
     const Answer answer = answerOf(m_options, {choosingMode(2, "a.dwg"), choosePage});
     QCOMPARE(answer.status, VyStatus::Accepted);
     QCOMPARE(answer.paths, QStringList{path("a.dwg")});
-    QCOMPARE(answer.codePage, VyCodePages().at(3).id);
+    QCOMPARE(answer.codePage, OdCodePageId::Iso8859_4);
 }
 
 void RequestTest::saves_data()

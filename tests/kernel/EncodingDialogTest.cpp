@@ -1,60 +1,166 @@
 // SPDX-License-Identifier: MIT
-// The dialog that asks for a code page, worked by hand.
-#include "DialogDriver.h"
-#include "VyDlgEncoding.h"
+// The dialog that asks for a code page, worked by hand: choosing.
+#include "CodePages.h"
+#include "EncodingDialogParts.h"
 
 #include <QCheckBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QtTest>
+#include <QTextCodec>
 
-namespace {
-
-QListWidget* pages(QDialog& dialog)
-{
-    return dialog.findChild<QListWidget*>(QStringLiteral("codePages"));
-}
-
-} // namespace
+using namespace EncodingDialogParts;
 
 class EncodingDialogTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void offersEveryPage();
-    void choosesByKeyboard();
+    void groupsThePages();
+    void headingsCannotBeChosen();
+    void keysVisitEveryPage();
+    void showsTheHeadingAboveAPage();
+    void proposesTheSystemsPage_data();
+    void proposesTheSystemsPage();
+    void choosesByMouse();
     void answerOutlivesTheDialog();
-    void readOnly();
-    void cancels();
-    void namesTheFile_data();
-    void namesTheFile();
+    void remembersNothing();
 };
 
-void EncodingDialogTest::offersEveryPage()
+void EncodingDialogTest::groupsThePages()
 {
-    CVyDlgEncoding dialog(nullptr, CVyString(L"/plans/gear.dwg"));
-    QCOMPARE(pages(dialog)->count(), static_cast<int>(VyCodePages().size()));
-    for (int row = 0; row < pages(dialog)->count(); ++row) {
-        const CVyCodePage& page = VyCodePages().at(static_cast<std::size_t>(row));
-        QVERIFY(pages(dialog)->item(row)->text().contains(QLatin1String(page.fileName)));
-        QVERIFY(pages(dialog)->item(row)->text().contains(QLatin1String(page.description)));
+    const CVyDlgEncoding dialog(nullptr, CVyString());
+    QStringList expected;
+    const CVyCodePageRegion* region = nullptr;
+    for (const CVyCodePage& page : VyCodePages()) {
+        if (page.region != region)
+            expected += page.region->name;
+        region = page.region;
+        expected += page.fileName;
     }
-    QCOMPARE(*dialog.GetCodepage(), OdCodePageId::Ansi1252);
-    QVERIFY(!dialog.IsReadOnly());
+    QCOMPARE(shown(dialog), expected);
+    for (const CVyCodePage& page : VyCodePages()) {
+        const QString text = QStringLiteral("%1 \u2013 %2").arg(page.description, page.fileName);
+        QCOMPARE(pages(dialog)->findItems(text, Qt::MatchExactly).size(), 1);
+    }
 }
 
-void EncodingDialogTest::choosesByKeyboard()
+void EncodingDialogTest::headingsCannotBeChosen()
 {
     CVyDlgEncoding dialog(nullptr, CVyString());
-    const DialogDriver driver({[](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        QCOMPARE(shown.focusWidget(), pages(shown));
-        QTest::keyClicks(pages(shown), QStringLiteral("Greek (W"));
-        QTest::keyClick(pages(shown), Qt::Key_Return);
-    }});
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QCOMPARE(*dialog.GetCodepage(), OdCodePageId::Ansi1253);
+    run(dialog, [&dialog] {
+        pages(dialog)->scrollToTop();
+        QListWidgetItem* const heading = pages(dialog)->item(0);
+        QVERIFY(isHeading(*heading));
+        const QPoint place = pages(dialog)->visualItemRect(heading).center();
+        QTest::mouseClick(pages(dialog)->viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(chosen(dialog), QByteArray("ANSI_1252"));
+        QTest::mouseDClick(pages(dialog)->viewport(), Qt::LeftButton, {}, place);
+        QVERIFY(dialog.isVisible());
+        // Nor is the chosen page taken away by Ctrl.
+        const QPoint page = pages(dialog)->visualItemRect(pages(dialog)->item(1)).center();
+        QTest::mouseClick(pages(dialog)->viewport(), Qt::LeftButton, Qt::ControlModifier, page);
+        QCOMPARE(chosen(dialog), QByteArray("ANSI_1252"));
+        dialog.reject();
+    });
+}
+
+void EncodingDialogTest::keysVisitEveryPage()
+{
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    run(dialog, [&dialog] {
+        pages(dialog)->setFocus();
+        press(dialog, Qt::Key_End);
+        QCOMPARE(chosen(dialog), QByteArray(VyCodePages().back().fileName));
+        press(dialog, Qt::Key_Home);
+        QStringList forth{chosen(dialog)};
+        for (std::size_t i = 1; i < VyCodePages().size(); ++i) {
+            press(dialog, Qt::Key_Down);
+            forth += chosen(dialog);
+        }
+        QStringList back{chosen(dialog)};
+        for (std::size_t i = 1; i < VyCodePages().size(); ++i) {
+            press(dialog, Qt::Key_Up);
+            back.prepend(chosen(dialog));
+        }
+        QStringList all;
+        for (const CVyCodePage& page : VyCodePages())
+            all += page.fileName;
+        QCOMPARE(forth, all);
+        QCOMPARE(back, all);
+        search(dialog)->setText("greek");
+        press(dialog, Qt::Key_End);
+        QCOMPARE(chosen(dialog), QByteArray("dos869"));
+        press(dialog, Qt::Key_Home);
+        QCOMPARE(chosen(dialog), QByteArray("ANSI_1253"));
+        dialog.reject();
+    });
+}
+
+void EncodingDialogTest::showsTheHeadingAboveAPage()
+{
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    run(dialog, [&dialog] {
+        const auto seesHeading = [&dialog] {
+            const QRect heading = pages(dialog)->visualItemRect(pages(dialog)->item(0));
+            return pages(dialog)->viewport()->rect().contains(heading);
+        };
+        QVERIFY(seesHeading()); // from the start
+        pages(dialog)->setFocus();
+        press(dialog, Qt::Key_End);
+        QVERIFY(!seesHeading());
+        press(dialog, Qt::Key_Home);
+        QVERIFY(seesHeading());
+        dialog.reject();
+    });
+}
+
+void EncodingDialogTest::proposesTheSystemsPage_data()
+{
+    QTest::addColumn<QByteArray>("codec");
+    QTest::addColumn<QByteArray>("page");
+    // These tests run in the locale C.UTF-8, whose language needs no other page.
+    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QByteArray("ANSI_1252");
+    QTest::newRow("Western European") << QByteArray("ISO-8859-1") << QByteArray("8859_1");
+    QTest::newRow("not a page of drawings") << QByteArray("UTF-32") << QByteArray("ANSI_1252");
+}
+
+void EncodingDialogTest::proposesTheSystemsPage()
+{
+    QFETCH(QByteArray, codec);
+    QFETCH(QByteArray, page);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName(codec));
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    QTextCodec::setCodecForLocale(nullptr);
+    QCOMPARE(chosen(dialog), page);
+    QVERIFY(!dialog.IsReadOnly());
+    const int status = run(dialog, [&dialog] { press(dialog, Qt::Key_Return); });
+    QCOMPARE(status, int(QDialog::Accepted));
+    QCOMPARE(chosen(dialog), page);
+}
+
+void EncodingDialogTest::choosesByMouse()
+{
+    const auto placeOf = [](const QDialog& dialog, int row) {
+        return pages(dialog)->visualItemRect(pages(dialog)->item(row)).center();
+    };
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    int status = run(dialog, [&] {
+        QTest::mouseClick(pages(dialog)->viewport(), Qt::LeftButton, {}, placeOf(dialog, 3));
+        QCOMPARE(chosen(dialog), QByteArray("mac-roman"));
+        QTest::mouseClick(part<QCheckBox>(dialog, "readOnly"), Qt::LeftButton, {}, {5, 5});
+        QTest::mouseClick(ok(dialog), Qt::LeftButton);
+    });
+    QCOMPARE(status, int(QDialog::Accepted));
+    QCOMPARE(chosen(dialog), QByteArray("mac-roman"));
+    QVERIFY(dialog.IsReadOnly());
+
+    CVyDlgEncoding another(nullptr, CVyString());
+    const QSignalSpy acceptances(&another, SIGNAL(accepted()));
+    status = run(another, [&] {
+        QTest::mouseClick(pages(another)->viewport(), Qt::LeftButton, {}, placeOf(another, 2));
+        QTest::mouseDClick(pages(another)->viewport(), Qt::LeftButton, {}, placeOf(another, 2));
+    });
+    QCOMPARE(status, int(QDialog::Accepted));
+    QCOMPARE(acceptances.size(), 1);
+    QCOMPARE(chosen(another), QByteArray("8859_1"));
 }
 
 void EncodingDialogTest::answerOutlivesTheDialog()
@@ -62,61 +168,30 @@ void EncodingDialogTest::answerOutlivesTheDialog()
     OdCodePageId* page = nullptr;
     {
         CVyDlgEncoding dialog(nullptr, CVyString());
-        pages(dialog)->setCurrentRow(0);
+        chooseCodePage(dialog, OdCodePageId::Big5);
         page = dialog.GetCodepage();
     }
     CVyDlgEncoding another(nullptr, CVyString());
-    pages(another)->setCurrentRow(5);
-    QCOMPARE(*page, VyCodePages().at(0).id);
-    QVERIFY(another.GetCodepage() != page);
-    pages(another)->setCurrentRow(-1);
-    QCOMPARE(another.GetCodepage(), nullptr);
+    chooseCodePage(another, OdCodePageId::Johab);
+    QCOMPARE(*page, OdCodePageId::Big5);
+    QCOMPARE(*another.GetCodepage(), OdCodePageId::Johab);
 }
 
-void EncodingDialogTest::readOnly()
+void EncodingDialogTest::remembersNothing()
 {
     CVyDlgEncoding dialog(nullptr, CVyString());
-    const DialogDriver driver({[](QDialog& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
-        QTest::keyClick(&shown, Qt::Key_R, Qt::AltModifier);
-        QTRY_VERIFY(shown.findChild<QCheckBox*>(QStringLiteral("readOnly"))->isChecked());
-        shown.accept();
-    }});
-    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-    QVERIFY(dialog.IsReadOnly());
-}
-
-void EncodingDialogTest::cancels()
-{
-    CVyDlgEncoding dialog(nullptr, CVyString());
-    const DialogDriver driver({[](QDialog& shown) { QTest::keyClick(&shown, Qt::Key_Escape); }});
-    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-}
-
-void EncodingDialogTest::namesTheFile_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("path") << "/plans/gear.dwg"
-                          << "gear.dwg";
-    QTest::newRow("several") << "Multiple files"
-                             << "Multiple files";
-    QTest::newRow("none") << ""
-                          << "";
-    QTest::newRow("ampersand") << "/plans/R&D.dwg"
-                               << "R&D.dwg";
-    QTest::newRow("markup") << "/plans/<b>x.dwg"
-                            << "<b>x.dwg";
-}
-
-void EncodingDialogTest::namesTheFile()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, shown);
-    CVyDlgEncoding dialog(nullptr, CVyString(path));
-    const auto* label = dialog.findChild<QLabel*>(QStringLiteral("fileName"));
-    QCOMPARE(label->text(), shown);
-    QCOMPARE(label->textFormat(), Qt::PlainText);
+    const QStringList all = shown(dialog);
+    run(dialog, [&dialog] {
+        write(dialog, "jap");
+        part<QCheckBox>(dialog, "readOnly")->setChecked(true);
+        dialog.resize(dialog.size() + QSize(50, 50));
+        dialog.accept();
+    });
+    CVyDlgEncoding another(nullptr, CVyString());
+    QCOMPARE(chosen(another), QByteArray("ANSI_1252"));
+    QVERIFY(!another.IsReadOnly());
+    QCOMPARE(search(another)->text(), QString());
+    QCOMPARE(shown(another), all);
 }
 
 QTEST_MAIN(EncodingDialogTest)

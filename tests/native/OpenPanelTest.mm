@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "CodePages.h"
 #include "HostTemplates.h"
 #include "NativeTest.h"
 
-#include "OdCodePageId.h"
 #include "VyBookmarks.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
 namespace {
@@ -54,11 +53,12 @@ PanelDriver::Step sees(const QStringList& names)
 }
 
 // Works the encoding dialog: its page, its check box, and Ok or Cancel.
-DialogDriver::Step onEncodingDialog(int row, bool readOnly, bool accept, QString* shownName)
+DialogDriver::Step onEncodingDialog(OdCodePageId page, bool readOnly, bool accept,
+                                    QString* shownName)
 {
     return [=](QDialog& dialog) {
         *shownName = dialog.findChild<QLabel*>(QStringLiteral("fileName"))->text();
-        dialog.findChild<QListWidget*>()->setCurrentRow(row);
+        chooseCodePage(dialog, page);
         dialog.findChild<QCheckBox*>()->setChecked(readOnly);
         auto* buttons = dialog.findChild<QDialogButtonBox*>();
         const auto button = accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
@@ -460,7 +460,7 @@ void OpenPanelTest::asksForTheEncoding()
     QFETCH(bool, accepted);
     QFETCH(bool, readOnly);
     QFETCH(unsigned, mode);
-    constexpr int row = 7;
+    constexpr OdCodePageId page = OdCodePageId::Iso8859_8;
     addFile("plan.dwg");
     addFile("other.dwg");
     for (const bool several : {false, true}) {
@@ -468,14 +468,14 @@ void OpenPanelTest::asksForTheEncoding()
         open.flags = CVyUserIO::FileNameModeChoices;
         QString shownName;
         const PanelDriver panel({chooseMode(2), click({"plan.dwg"}), accept()});
-        const DialogDriver::Step dialog = onEncodingDialog(row, readOnly, accepted, &shownName);
+        const DialogDriver::Step dialog = onEncodingDialog(page, readOnly, accepted, &shownName);
         QCOMPARE(several ? open.getFileNames({dialog}) : open.getFileName({dialog}), 5100);
         QCOMPARE(shownName, QString("plan.dwg"));
         QCOMPARE(open.paths, QStringList(path("plan.dwg")));
         QCOMPARE(unsigned(open.mode), mode);
         QCOMPARE(open.codePage != nullptr, accepted);
         if (accepted)
-            QCOMPARE(*open.codePage, VyCodePages().at(row).id);
+            QCOMPARE(*open.codePage, page);
     }
     overlookGoneWindows();
 }
@@ -488,7 +488,8 @@ void OpenPanelTest::asksOnceForSeveralFiles()
     open.flags = CVyUserIO::FileNameModeChoices;
     QString shownName;
     const PanelDriver panel({chooseMode(2), click({"plan.dwg", "other.dwg"}), accept()});
-    QCOMPARE(open.getFileNames({onEncodingDialog(0, true, true, &shownName)}), 5100);
+    QCOMPARE(open.getFileNames({onEncodingDialog(OdCodePageId::Ascii, true, true, &shownName)}),
+             5100);
     QCOMPARE(shownName, QString("Multiple files"));
     QCOMPARE(open.paths, QStringList({path("other.dwg"), path("plan.dwg")}));
     QCOMPARE(open.mode, CVyUserIO::OpenReadOnly);

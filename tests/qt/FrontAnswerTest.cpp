@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What the two requests make of a fake back-end's answer: mode, paths, extension
 // and code page.
+#include "CodePages.h"
 #include "FakeFamily.h"
 #include "HostRequest.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QtTest>
 
@@ -18,13 +18,13 @@ using FakeFamily::script;
 namespace {
 
 // Works the encoding dialog: its page, its check box, and Ok or Cancel.
-DialogDriver::Step onEncodingDialog(int row, bool readOnly, bool accept,
+DialogDriver::Step onEncodingDialog(OdCodePageId page, bool readOnly, bool accept,
                                     QString* shownName = nullptr)
 {
     return [=](QDialog& dialog) {
         if (shownName)
             *shownName = dialog.findChild<QLabel*>(QStringLiteral("fileName"))->text();
-        dialog.findChild<QListWidget*>()->setCurrentRow(row);
+        chooseCodePage(dialog, page);
         dialog.findChild<QCheckBox*>()->setChecked(readOnly);
         auto* buttons = dialog.findChild<QDialogButtonBox*>();
         const auto button = accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
@@ -272,13 +272,14 @@ void FrontAnswerTest::asksForTheEncoding()
     for (const bool several : {false, true}) {
         HostRequest request;
         request.type = type;
-        const std::vector<DialogDriver::Step> steps{onEncodingDialog(36, readOnly, accept)};
+        const std::vector<DialogDriver::Step> steps{
+            onEncodingDialog(OdCodePageId::Ansi874, readOnly, accept)};
         const int status = several ? request.getFileNames(steps) : request.getFileName(steps);
         QCOMPARE(status, VyStatus::Accepted);
         QCOMPARE(static_cast<unsigned>(request.mode), mode);
         QCOMPARE(request.codePage != nullptr, accept);
         if (accept) // the dialog that handed it out is gone
-            QCOMPARE(*request.codePage, VyCodePages().at(36).id);
+            QCOMPARE(*request.codePage, OdCodePageId::Ansi874);
     }
 }
 
@@ -307,7 +308,7 @@ void FrontAnswerTest::encodingDialogNamesTheFiles()
     HostRequest request;
     request.paths = before;
     QString name = QStringLiteral("untouched");
-    request.getFileNames({onEncodingDialog(0, false, true, &name)});
+    request.getFileNames({onEncodingDialog(OdCodePageId::Ascii, false, true, &name)});
     QCOMPARE(name, shown);
 }
 
@@ -315,7 +316,7 @@ void FrontAnswerTest::encodingWithoutOutputs()
 {
     script().openMode = 2;
     script().results = QStringList{QStringLiteral("/d/plan.dwg")};
-    const DialogDriver driver({onEncodingDialog(0, true, true)});
+    const DialogDriver driver({onEncodingDialog(OdCodePageId::Ascii, true, true)});
     const CVyString text;
     CVyString path;
     QCOMPARE(CVyFileDialog::GetFileName(nullptr, &path, 0, CVyUserIO::FileNameOpen, text, text,
