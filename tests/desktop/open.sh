@@ -49,14 +49,3 @@ screenshot "$out/ampersand.png"
 press Return
 finish
 expect 'the answer' "$answer" "$plans/R&D/inside.dxf"
-
-# The second dialog asks for the code page: typed in the list, then Return.
-ask 'Encoding' open --modes --json --start "$plans/$first" --filter "$types"
-press alt+o Up Return
-wait_for_window 'Open with Encoding' || fail 'no encoding dialog'
-write 'Greek (W'
-screenshot "$out/encoding.png"
-press alt+r Return
-finish
-expect 'the exit status' "$status" 0
-[[ $answer == *'"number":768'*'"codePage":"ANSI_1253"'* ]] || fail "not the page chosen: $answer"
