@@ -66,7 +66,6 @@ void makeSampleField(QPlainTextEdit& field)
 {
     field.setReadOnly(true);
     field.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    field.setTabChangesFocus(true);
     const double margins = 2 * (field.frameWidth() + field.document()->documentMargin());
     field.setFixedHeight(sampleLines * field.fontMetrics().lineSpacing() + qCeil(margins));
 }

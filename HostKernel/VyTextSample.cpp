@@ -40,8 +40,7 @@ const std::vector<Typical>& typicalTexts()
         {{Id::Ansi1255, Id::Iso8859_8}, u"תכנית, קנה מידה 1:50, גובה"},
         {{Id::Ansi1256, Id::Iso8859_6}, u"مخطط، مقياس 1:50، ارتفاع"},
         // This page holds the shapes of letters, not the letters.
-        {{Id::Dos864},
-         u"\uFE8D\uFEAD\uFE97\uFED3\uFE8E\uFEC9 1:50\u060C \uFEE3\uFEAD\uFEDB\uFEAF"},
+        {{Id::Dos864}, u"\uFE8D\uFEAD\uFE97\uFED3\uFE8E\uFEC9 1:50\u060C \uFEE3\uFEAD\uFEDB\uFEAF"},
         {{Id::Ansi932, Id::Dos932}, u"図面 尺度 1:50 高さ 寸法 鉄筋コンクリート"},
         {{Id::Ansi936, Id::Gb2312}, u"图纸 比例 1:50 高度 钢筋混凝土"},
         {{Id::Ansi950, Id::Big5}, u"圖面 比例 1:50 高度 鋼筋混凝土"},
@@ -101,10 +100,7 @@ QString typical(const CVyCodePage& page)
     const QTextCodec* const codec = codecOf(page);
     if (!codec || found == texts.end())
         return {};
-    QTextCodec::ConverterState withoutMark(QTextCodec::IgnoreHeader);
-    const QString text = QString::fromUtf16(found->text);
-    const QByteArray bytes = codec->fromUnicode(text.constData(), text.size(), &withoutMark);
-    return decoded(page, {bytes});
+    return decoded(page, {codec->fromUnicode(QString::fromUtf16(found->text))});
 }
 
 QString singleLine(QString text)

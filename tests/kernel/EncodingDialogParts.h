@@ -89,4 +89,11 @@ inline void write(const QDialog& dialog, const QString& text)
         QTest::keyClicks(dialog.focusWidget(), QString(letter));
 }
 
+/// Lets Qt end the fading of the field's clear button, which it forgets when the
+/// field has gone before; to be called before a test ends.
+inline void letFadingEnd()
+{
+    QTest::qWait(50); // a few frames
+}
+
 } // namespace EncodingDialogParts

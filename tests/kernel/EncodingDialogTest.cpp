@@ -4,6 +4,7 @@
 #include "EncodingDialogParts.h"
 
 #include <QCheckBox>
+#include <QProxyStyle>
 #include <QTextCodec>
 
 using namespace EncodingDialogParts;
@@ -13,13 +14,17 @@ class EncodingDialogTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { letFadingEnd(); }
+
     void groupsThePages();
     void headingsCannotBeChosen();
     void keysVisitEveryPage();
     void showsTheHeadingAboveAPage();
     void proposesTheSystemsPage_data();
     void proposesTheSystemsPage();
+    void showsTheProposedPage();
     void choosesByMouse();
+    void looksByOneClick();
     void answerOutlivesTheDialog();
     void remembersNothing();
 };
@@ -136,6 +141,19 @@ void EncodingDialogTest::proposesTheSystemsPage()
     QCOMPARE(chosen(dialog), page);
 }
 
+// It may be far down in the list.
+void EncodingDialogTest::showsTheProposedPage()
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("EUC-KR"));
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    QTextCodec::setCodecForLocale(nullptr);
+    QCOMPARE(chosen(dialog), QByteArray("ANSI_949"));
+    dialog.show();
+    const QRect page = pages(dialog)->visualItemRect(pages(dialog)->currentItem());
+    const int middle = pages(dialog)->viewport()->rect().center().y();
+    QVERIFY(qAbs(page.center().y() - middle) < page.height());
+}
+
 void EncodingDialogTest::choosesByMouse()
 {
     const auto placeOf = [](const QDialog& dialog, int row) {
@@ -161,6 +179,31 @@ void EncodingDialogTest::choosesByMouse()
     QCOMPARE(status, int(QDialog::Accepted));
     QCOMPARE(acceptances.size(), 1);
     QCOMPARE(chosen(another), QByteArray("8859_1"));
+}
+
+// Also where the desktop opens things with one click.
+void EncodingDialogTest::looksByOneClick()
+{
+    class OneClick : public QProxyStyle
+    {
+    public:
+        int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                      QStyleHintReturn* result) const override
+        {
+            return hint == SH_ItemView_ActivateItemOnSingleClick
+                       ? 1
+                       : QProxyStyle::styleHint(hint, option, widget, result);
+        }
+    } style;
+    CVyDlgEncoding dialog(nullptr, CVyString());
+    pages(dialog)->setStyle(&style);
+    run(dialog, [&dialog] {
+        const QPoint place = pages(dialog)->visualItemRect(pages(dialog)->item(3)).center();
+        QTest::mouseClick(pages(dialog)->viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(chosen(dialog), QByteArray("mac-roman"));
+        QVERIFY(dialog.isVisible());
+        dialog.reject();
+    });
 }
 
 void EncodingDialogTest::answerOutlivesTheDialog()

@@ -10,6 +10,8 @@ class EncodingSearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { letFadingEnd(); }
+
     void searches_data();
     void searches();
     void searchesInTheUsersLanguage();
@@ -74,6 +76,8 @@ void EncodingSearchTest::searchesInTheUsersLanguage()
                 return {};
             const QMap<QByteArray, QString> words = {
                 {"Central European", QStringLiteral("Öst")},
+                {"Baltic", QStringLiteral("Baltisk")},
+                {"Baltic (ISO)", QStringLiteral("Baltisk (ISO)")},
                 {"Greek (DOS)", QStringLiteral("Grekisk (DOS)")},
                 {"Arabic, Persian, Urdu", QStringLiteral("arabiska, persiska, urdu")},
                 {"No encoding matches the search.", QStringLiteral("Ingenting")}};
@@ -91,6 +95,7 @@ void EncodingSearchTest::searchesInTheUsersLanguage()
     QCOMPARE(found("ÖST"), QStringLiteral("Öst,ANSI_1250,8859_2,dos852"));
     QCOMPARE(found("ost 852"), QStringLiteral("Öst,dos852"));
     QCOMPARE(found("central european"), QStringLiteral("Öst,ANSI_1250,8859_2,dos852"));
+    QCOMPARE(found("baltic iso"), QStringLiteral("Baltisk,8859_4"));
     QCOMPARE(found("grekisk"), QStringLiteral("Greek,dos869"));
     QCOMPARE(found("persiska"), QStringLiteral("Arabic,ANSI_1256,8859_6,dos864"));
     QCOMPARE(found("xyz"), QStringLiteral("Ingenting"));
@@ -125,6 +130,7 @@ void EncodingSearchTest::choosesBySearching()
     QFETCH(Keys, keys);
     QFETCH(QByteArray, page);
     CVyDlgEncoding dialog(nullptr, CVyString());
+    const QSignalSpy acceptances(&dialog, SIGNAL(accepted()));
     const int status = run(dialog, [&] {
         QCOMPARE(dialog.focusWidget(), search(dialog)); // from the start
         write(dialog, typed);
@@ -134,6 +140,7 @@ void EncodingSearchTest::choosesBySearching()
         press(dialog, Qt::Key_Return);
     });
     QCOMPARE(status, int(QDialog::Accepted));
+    QCOMPARE(acceptances.size(), 1);
     QCOMPARE(chosen(dialog), page);
 
     // Typing in the list is typing in the search.
