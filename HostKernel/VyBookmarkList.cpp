@@ -213,12 +213,16 @@ void CVyBookmarkList::put(const VyBookmarkEntry& entry)
     m_entries = vyMergedEntries({entry}, m_entries);
 }
 
-// Never before the latest choice: another process's clock may be ahead, and
-// ours may have been set back.
+// After the latest choice: another process's clock may be ahead, ours may have
+// been set back, and two choices can come in one millisecond. The text of a time
+// ends with the year 9999.
 QDateTime CVyBookmarkList::timeOfChoice() const
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    return m_entries.isEmpty() ? now : qMax(now, m_entries.constFirst().bookmark.chosen);
+    if (m_entries.isEmpty())
+        return now;
+    const QDateTime last({9999, 12, 31}, {23, 59, 59, 999}, Qt::UTC);
+    return qMin(last, qMax(now, m_entries.constFirst().bookmark.chosen.addMSecs(1)));
 }
 
 void CVyBookmarkList::warnOfDamage(const VyBookmarkFormat::Contents& contents,

@@ -71,8 +71,8 @@ class CVySystemBookmark;
 ///
 ///   path      the path that was chosen, as text: at most 8192 UTF-16 code
 ///             units. What is no character (a surrogate alone) is written \uXXXX.
-///   chosen    when: ISO 8601, UTC, milliseconds. Never before the entry below,
-///             so a clock that was set back does not change the order.
+///   chosen    when: ISO 8601, UTC, milliseconds. Always after the entry below,
+///             whatever the clock says, which may have been set back.
 ///   bytes     only where the text cannot name the file: the path in the
 ///             system's bytes, at most 8192, percent-encoded (RFC 3986) but
 ///             for "/".

@@ -28,5 +28,6 @@ VyFileFacts vyFileFacts(const QByteArray& path);
 /// has none, device, size and time of modification must be. A file that was
 /// changed there is then not recognised, rather than another one taken for it.
 /// With a time of birth the device does not count: its number may be another
-/// one after each mount.
+/// one after each mount. Two files of one inode that were born in the same tick
+/// of the file system's clock, a few milliseconds, cannot be told apart.
 bool vyIsSameFile(const VyFileFacts& one, const VyFileFacts& other);

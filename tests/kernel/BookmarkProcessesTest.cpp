@@ -40,6 +40,8 @@ private Q_SLOTS:
     void takesTheLatestOfAFile();
     void keepsTheOrderOfChoice_data();
     void keepsTheOrderOfChoice();
+    void tellsTheTimesApart();
+    void survivesTheEndOfTime();
     void clearsWhatWasNotWritten();
 
 private:
@@ -127,26 +129,50 @@ void BookmarkProcessesTest::keepsTheOrderOfChoice_data()
 
     QTest::newRow("clock right") << 2020;
     QTest::newRow("clock set back, or another's ahead") << 2900;
-    QTest::newRow("the last year that there is") << 9999;
 }
 
 void BookmarkProcessesTest::keepsTheOrderOfChoice()
 {
     QFETCH(int, year);
-    newFile("bookmarks.jsonl", storeText({"/b", "/a"}, year));
-    const QDateTime before = QDateTime({year, 5, 17}, {9, 30}, Qt::UTC);
+    newFile("bookmarks.jsonl", "{\"format\":\"bookmarks\",\"version\":1}\n" +
+                                   entryLine("/b", year) + entryLine("/a", year - 1));
+    const QDateTime before({year, 5, 17}, {9, 30}, Qt::UTC);
     CVyBookmarkList list(store());
     add(list, "/c");
     add(list, "/d");
     add(list, "/a");
     QCOMPARE(paths(list), QStringList({"/a", "/d", "/c", "/b"}));
     QCOMPARE(storedPaths(), paths(list));
-    QCOMPARE(list.bookmarks().constLast().chosen, before);
-    QVERIFY(list.bookmarks().constFirst().chosen >= before);
+    const QList<VyBookmark> bookmarks = list.bookmarks();
+    QCOMPARE(bookmarks[3].chosen, before);
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(bookmarks[i].chosen > bookmarks[i + 1].chosen);
 
     list.clear();
     add(list, "/e");
     QCOMPARE(storedPaths(), QStringList("/e"));
+}
+
+// A panel hands over many files at a time.
+void BookmarkProcessesTest::tellsTheTimesApart()
+{
+    CVyBookmarkList list{QString()};
+    for (int number = 0; number < 100; ++number)
+        add(list, QString::number(number));
+    const QList<VyBookmark> bookmarks = list.bookmarks();
+    for (int i = 1; i < bookmarks.size(); ++i)
+        QVERIFY(bookmarks[i - 1].chosen > bookmarks[i].chosen);
+}
+
+// There is no time after it that has a text.
+void BookmarkProcessesTest::survivesTheEndOfTime()
+{
+    newFile("bookmarks.jsonl", "{\"format\":\"bookmarks\",\"version\":1}\n"
+                               "{\"chosen\":\"9999-12-31T23:59:59.999Z\",\"path\":\"/a\"}\n");
+    CVyBookmarkList list(store());
+    add(list, "/b");
+    add(list, "/c");
+    QCOMPARE(storedPaths(), QStringList({"/c", "/b", "/a"}));
 }
 
 // Not even when others have written meanwhile, but only what is older.
