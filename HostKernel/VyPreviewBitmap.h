@@ -6,9 +6,14 @@
 #include <QImage>
 
 /// Reads the preview picture that a file carries: the one that was stored in a
-/// DWG or DXF drawing or template, or what a PNG, JPEG or BMP file shows. Which
+/// DWG or DXF drawing or template, or what a PNG, JPEG, BMP or SVG file shows. Which
 /// of them a file is, is told by its content; but a picture that is named like a
 /// drawing has no preview.
+///
+/// An SVG file (Scalable Vector Graphics 1.1, W3C) has a preview where Qt's plug-in
+/// for it is installed and it is a plain drawing: shapes, texts and gradients in
+/// UTF-8, not compressed, with nothing of another file, a style sheet, repetition
+/// or script, and cheap to draw. It is drawn with at most 256 pixels a side.
 ///
 /// Reading is bounded in time and memory whatever the file holds: pictures have
 /// at most 8192 pixels a side, 16 million in all and 32 MiB as stored, and of a

@@ -5,8 +5,10 @@
 #include "VyPngCheck.h"
 #include "VyPreviewLimits.h"
 #include "VyPreviewSource.h"
+#include "VySvgCheck.h"
 
 #include <QBuffer>
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QtEndian>
 
@@ -81,7 +83,9 @@ QImage withinPalette(const QImage& picture, int colours)
     return picture;
 }
 
-QImage decoded(QByteArray bytes, const char* format)
+// In the size that the picture declares, or in \a drawnSize for one that can be
+// drawn in any.
+QImage decoded(QByteArray bytes, const char* format, QSize drawnSize = {})
 {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -92,9 +96,11 @@ QImage decoded(QByteArray bytes, const char* format)
     const QSize size(reader.size().width(), std::abs(reader.size().height()));
     if (!VyPreviewLimits::allowsPicture(size.width(), size.height()))
         return {};
+    if (drawnSize.isValid())
+        reader.setScaledSize(drawnSize);
     // Qt decodes into a picture of the right kind that it is given. A run-length
     // bitmap can jump over pixels, which would show what the memory held before.
-    QImage picture(size, reader.imageFormat());
+    QImage picture(drawnSize.isValid() ? drawnSize : size, reader.imageFormat());
     picture.fill(0);
     return reader.read(&picture) && !messages.any() ? picture : QImage();
 }
@@ -127,6 +133,16 @@ QImage fromJpeg(const QByteArray& jpeg)
                                                                      : QImage();
 }
 
+// Null also where Qt has no plug-in for it.
+QImage fromSvg(const QByteArray& svg)
+{
+    const VySvgCheck::Drawing drawing = VySvgCheck::check(svg);
+    const bool hasFonts = qobject_cast<QGuiApplication*>(QCoreApplication::instance());
+    if (drawing.size.isEmpty() || (drawing.hasText && !hasFonts))
+        return {};
+    return decoded(svg, "svg", drawing.size);
+}
+
 struct PictureKind
 {
     const char* signature;
@@ -134,7 +150,8 @@ struct PictureKind
 };
 
 constexpr PictureKind pictureKinds[] = {
-    {"\x89PNG", fromPng}, {"\xFF\xD8\xFF", fromJpeg}, {"BM", fromBmp}};
+    {"\x89PNG", fromPng}, {"\xFF\xD8\xFF", fromJpeg}, {"BM", fromBmp},           {"<svg", fromSvg},
+    {"<?xm", fromSvg},    {"<!--", fromSvg},          {"\xEF\xBB\xBF<", fromSvg}};
 
 } // namespace
 

@@ -16,10 +16,10 @@ QImage fromDib(const QByteArray& dib);
 /// The picture of the PNG file \a png.
 QImage fromPng(const QByteArray& png);
 
-/// The picture that \a file is: PNG, JPEG or BMP, told by its content.
-///
-/// SVG is left out. It is a drawing program more than a picture: it names
-/// further files to be opened, and no limit known beforehand bounds its cost.
+/// The picture that \a file is: PNG, JPEG or BMP, told by its content; and SVG,
+/// where Qt has its plug-in "svg" at run time and the file is a plain drawing, see
+/// VySvgCheck.h, drawn with at most 256 pixels a side on nothing. Texts in it take
+/// a QGuiApplication.
 QImage fromPictureFile(CVyPreviewSource& file);
 
 } // namespace VyPreviewImage

@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QImageReader>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -56,6 +57,35 @@ QByteArray commented(const QByteArray& jpeg, const QByteArray& text)
 {
     return jpeg.left(2) + QByteArray("\xFF\xFE\0", 3) + static_cast<char>(text.size() + 2) + text +
            jpeg.mid(2);
+}
+
+// A drawing of a square for each pixel.
+QByteArray svgOf(const QImage& picture)
+{
+    QString squares;
+    for (int i = 0; i < picture.width() * picture.height(); ++i) {
+        const QPoint at(i % picture.width(), i / picture.width());
+        squares += QStringLiteral("<rect x='%1' y='%2' width='1' height='1' fill='%3'/>")
+                       .arg(at.x())
+                       .arg(at.y())
+                       .arg(picture.pixelColor(at).name());
+    }
+    return QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'>%3</svg>")
+        .arg(picture.width())
+        .arg(picture.height())
+        .arg(squares)
+        .toUtf8();
+}
+
+// As gzip writes it.
+QByteArray compressed(const QByteArray& file)
+{
+    QProcess gzip;
+    gzip.start(QStringLiteral("gzip"), {QStringLiteral("-c")});
+    gzip.write(file);
+    gzip.closeWriteChannel();
+    gzip.waitForFinished();
+    return gzip.readAllStandardOutput();
 }
 
 // Red, green and blue of each pixel, rows from top to bottom.
@@ -212,6 +242,12 @@ void PreviewTest::contentDecides_data()
     QTest::newRow("PNG named as DWG") << "a.dwg" << png << false;
     QTest::newRow("PNG named as template") << "a.dwt" << png << false;
     QTest::newRow("PNG named as DXF") << "a.DXF" << png << false;
+    const QByteArray svg = svgOf(testPicture(7, 5, 8));
+    const bool hasPlugin = QImageReader::supportedImageFormats().contains("svg");
+    QTest::newRow("SVG") << "a.svg" << svg << hasPlugin;
+    QTest::newRow("SVG named as PNG") << "a.png" << svg << hasPlugin;
+    QTest::newRow("SVG named as DWG") << "a.dwg" << svg << false;
+    QTest::newRow("SVG named as DXF") << "a.dxf" << svg << false;
     QTest::newRow("ZIP named as DWG") << "a.dwg" << QByteArray("PK\3\4").repeated(500) << false;
     QTest::newRow("text named as DWG")
         << "a.dwg" << QByteArray("Dear all,\n").repeated(99) << false;
@@ -280,8 +316,11 @@ void PreviewTest::badPictureFile_data()
     QTest::newRow("BMP with its pixels elsewhere") << gap + QByteArray(4, 0);
     QTest::newRow("PNG cut") << testPng(7, 5).chopped(1);
     QTest::newRow("picture of 33 MB") << testPng(7, 5) + QByteArray(33 * 1024 * 1024, 0);
-    QTest::newRow("vector picture") << QByteArray(
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><rect/></svg>");
+    QTest::newRow("SVG with text, where there are no fonts")
+        << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
+                      "<text y='9'>A</text></svg>");
+    QTest::newRow("SVG cut") << svgOf(picture).chopped(1);
+    QTest::newRow("SVG compressed") << compressed(svgOf(picture));
 }
 
 void PreviewTest::badPictureFile()
