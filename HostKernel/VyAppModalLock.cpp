@@ -1,15 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "VyAppModalLock.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QEvent>
+#include <QCursor>
+#include <QDrag>
+#include <QInputMethod>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QThread>
 #include <QVector>
 #include <QWindow>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
+// Leaving, and losing the focus or the mouse, is none of it: a window that was
+// left must know.
 bool isFromUser(QEvent::Type type)
 {
     switch (type) {
@@ -17,11 +27,14 @@ bool isFromUser(QEvent::Type type)
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
+    case QEvent::Enter:
+    case QEvent::ToolTip:
     case QEvent::Wheel:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
     case QEvent::ShortcutOverride:
     case QEvent::Shortcut:
+    case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::TabletPress:
     case QEvent::TabletMove:
@@ -40,48 +53,133 @@ bool isFromUser(QEvent::Type type)
     }
 }
 
-// Takes the user's events away from the windows that were open when the lock
-// was made. An event filter rather than QWidget::setEnabled(), which would
-// change how the windows look and move their focus.
+// Whichever window it is sent to, Qt hands it on to the widget that was pressed;
+// outside its window it clicks nothing.
+void releaseButtons()
+{
+    const QPoint outside(-1, -1);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+        QWindow* const window = QGuiApplication::focusWindow();
+        if (!window || !QGuiApplication::mouseButtons().testFlag(button))
+            continue;
+        QMouseEvent release(QEvent::MouseButtonRelease, outside, outside,
+                            window->mapToGlobal(outside), button, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &release);
+    }
+}
+
+// Ends what the user has begun, since he cannot end it himself: a button would
+// stay down, a drag would never end, an open popup would keep mouse and keyboard
+// from the dialog.
+void endInput()
+{
+    QGuiApplication::inputMethod()->commit();
+    QDrag::cancel();
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            break;
+    }
+    releaseButtons();
+}
+
+// Takes the user's events away from windows. An event filter rather than
+// QWidget::setEnabled(), which would change how the windows look and move their
+// focus.
 class WindowLock : public QObject
 {
 public:
     explicit WindowLock(const QWidget* usable)
+        : m_usable(usable)
     {
-        const QWindow* free = usable ? usable->window()->windowHandle() : nullptr;
+        endInput();
         const QWindowList windows = QGuiApplication::allWindows();
-        for (QWindow* window : windows) {
-            if (window != free)
-                m_locked.append(window);
-        }
+        std::copy_if(windows.begin(), windows.end(), std::back_inserter(m_modalBefore),
+                     isOpenModal);
         qApp->installEventFilter(this);
+    }
+
+    // The window under the mouse learns of it at last.
+    ~WindowLock() override
+    {
+        if (!qApp || !m_entered)
+            return;
+        qApp->removeEventFilter(this);
+        const QPoint mouse = QCursor::pos();
+        const QPoint local = m_entered->mapFromGlobal(mouse);
+        QEnterEvent enter(local, local, mouse);
+        QCoreApplication::sendEvent(m_entered, &enter);
     }
 
     bool eventFilter(QObject* receiver, QEvent* event) override
     {
-        if (!isFromUser(event->type()) || !isLocked(windowOf(receiver)))
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            m_modalBefore.removeAll(qobject_cast<QWindow*>(receiver));
+        if (event->type() == QEvent::Leave && receiver == m_entered)
+            m_entered = nullptr;
+        if (!isFromUser(event->type()) || isFree(receiver))
             return false;
-        event->ignore();
+        if (event->type() == QEvent::Enter)
+            m_entered = qobject_cast<QWindow*>(receiver);
+        // Qt looks for a shortcut unless the window wants the key for itself.
+        event->setAccepted(event->type() == QEvent::ShortcutOverride);
         return true;
     }
 
 private:
-    bool isLocked(QWindow* window) const { return window && m_locked.contains(window); }
-
-    // Shortcuts and actions receive events too; they belong to the window of
-    // their parent.
-    static QWindow* windowOf(QObject* receiver)
+    static bool isOpenModal(const QWindow* window)
     {
-        for (QObject* object = receiver; object; object = object->parent()) {
-            if (object->isWidgetType())
-                return static_cast<QWidget*>(object)->window()->windowHandle();
-            if (object->isWindowType())
-                return static_cast<QWindow*>(object);
-        }
-        return nullptr;
+        return window->isVisible() && window->modality() != Qt::NonModal;
     }
 
-    QVector<QPointer<QWindow>> m_locked;
+    // Nothing else can be used as long as such a window is open, so it must be.
+    bool comesFirst(QWindow* window) const
+    {
+        return (isOpenModal(window) && !m_modalBefore.contains(window)) ||
+               (window->isVisible() && window->type() == Qt::Popup);
+    }
+
+    bool isFree(QObject* receiver) const
+    {
+        if (const auto* action = qobject_cast<QAction*>(receiver))
+            return isActionFree(*action);
+        for (; receiver; receiver = receiver->parent()) {
+            if (receiver->isWidgetType())
+                return isWidgetFree(static_cast<QWidget*>(receiver));
+            if (receiver->isWindowType())
+                return isWindowFree(static_cast<QWindow*>(receiver));
+        }
+        return true;
+    }
+
+    bool isWindowFree(QWindow* window) const
+    {
+        if (!window)
+            return false;
+        return (m_usable && window == m_usable->window()->windowHandle()) || comesFirst(window) ||
+               isWindowFree(window->parent()) || isWindowFree(window->transientParent());
+    }
+
+    bool isWidgetFree(const QWidget* widget) const
+    {
+        if (!widget)
+            return false;
+        const QWidget* const window = widget->window();
+        return isWindowFree(window->windowHandle()) || isWidgetFree(window->parentWidget());
+    }
+
+    // An action is where it is offered, whoever its parent is.
+    bool isActionFree(const QAction& action) const
+    {
+        const QList<QWidget*> places = action.associatedWidgets();
+        return std::any_of(places.begin(), places.end(), [this](const QWidget* place) {
+            const auto* menu = qobject_cast<const QMenu*>(place);
+            return isWidgetFree(place) || (menu && isActionFree(*menu->menuAction()));
+        });
+    }
+
+    const QPointer<const QWidget> m_usable;
+    QVector<QPointer<QWindow>> m_modalBefore;
+    QPointer<QWindow> m_entered; ///< without having been told
 };
 
 bool hasWindows()

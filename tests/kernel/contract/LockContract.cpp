@@ -1,212 +1,274 @@
 // SPDX-License-Identifier: MIT
-// The application-modal lock: what it takes from windows that were open, what it
-// leaves to those opened later, and that nothing stays of it.
+// The application-modal lock: which windows it takes from the user, which it
+// leaves to him.
+#include "HostWindow.h"
 #include "VyAppModalLock.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
-#include <QShortcut>
-#include <QVBoxLayout>
+#include <QAction>
+#include <QMenu>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
 
-// A host's window that counts what the user gets through to it.
-class HostWindow : public QWidget
+// What a host can do to a window of its own while the lock is held.
+using Change = std::function<void(HostWindow&)>;
+
+void addChanges()
 {
-public:
-    HostWindow()
-        : button(new QPushButton(QStringLiteral("&Press"), this))
-        , edit(new QLineEdit(this))
-    {
-        auto* rows = new QVBoxLayout(this);
-        rows->addWidget(button);
-        rows->addWidget(edit);
-        setAcceptDrops(true);
-        show();
-        if (!QTest::qWaitForWindowActive(this))
-            qFatal("the window did not become active");
-    }
-
-    bool takesClicks()
-    {
-        const QSignalSpy clicks(button, SIGNAL(clicked()));
-        QTest::mouseClick(windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          button->mapTo(this, button->rect().center()));
-        QTest::mouseClick(button, Qt::LeftButton);
-        return clicks.size() == 2;
-    }
-    bool takesKeys()
-    {
-        edit->clear();
-        QTest::keyClicks(edit, QStringLiteral("ab"));
-        return edit->text() == QLatin1String("ab");
-    }
-    bool takesShortcuts()
-    {
-        QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+J")), this);
-        const QSignalSpy activations(&shortcut, SIGNAL(activated()));
-        QTest::keyClick(windowHandle(), Qt::Key_J, Qt::ControlModifier);
-        return activations.size() == 1;
-    }
-    bool takesDrops()
-    {
-        QMimeData mime;
-        mime.setText(QStringLiteral("dropped"));
-        QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(edit, &enter);
-        QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        drop.ignore();
-        QApplication::sendEvent(edit, &drop);
-        return drop.isAccepted();
-    }
-    bool takesCloseRequests()
-    {
-        const bool closed = close();
-        show();
-        return closed;
-    }
-    QString takes()
-    {
-        QStringList list;
-        if (takesClicks())
-            list.append(QStringLiteral("clicks"));
-        if (takesKeys())
-            list.append(QStringLiteral("keys"));
-        if (takesShortcuts())
-            list.append(QStringLiteral("shortcuts"));
-        if (takesDrops())
-            list.append(QStringLiteral("drops"));
-        if (takesCloseRequests())
-            list.append(QStringLiteral("close requests"));
-        return list.join(QStringLiteral(", "));
-    }
-
-    QPushButton* button;
-    QLineEdit* edit;
-};
-
-const QString Everything = QStringLiteral("clicks, keys, shortcuts, drops, close requests");
-const QString Nothing;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("nothing") << Change([](HostWindow&) {});
+    QTest::newRow("hidden and shown again") << Change([](HostWindow& window) {
+        window.hide();
+        window.open();
+    });
+    QTest::newRow("made anew with other flags") << Change([](HostWindow& window) {
+        window.setWindowFlags(Qt::Window | Qt::WindowStaysOnTopHint);
+        window.open();
+    });
+    QTest::newRow("made a tool window") << Change([](HostWindow& window) {
+        window.setWindowFlags(Qt::Tool);
+        window.open();
+    });
+    QTest::newRow("given native children") << Change([](HostWindow& window) {
+        window.edit->winId();
+        window.button->winId();
+    });
+}
 
 } // namespace
+
+Q_DECLARE_METATYPE(Change)
 
 class LockContract : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void takesTheUserAway_data() { addChanges(); }
     void takesTheUserAway();
+    void takesHimFromLaterWindowsToo();
+    void leavesTheUsableWindow_data() { addChanges(); }
     void leavesTheUsableWindow();
-    void leavesWindowsOpenedLater();
-    void unlocksTwice();
-    void unlocksWithItsScope();
-    void nests_data();
-    void nests();
-    void changesNoWindow();
-    void survivesALockedWindow();
+    void leavesDialogsOpenedLater_data();
+    void leavesDialogsOpenedLater();
+    void locksADialogThatWasOpen();
+    void leavesWhatADialogOpens_data();
+    void leavesWhatADialogOpens();
+    void locksWindowsWithoutWidgets();
+    void locksActionsByTheirPlaces_data();
+    void locksActionsByTheirPlaces();
 };
 
 void LockContract::takesTheUserAway()
 {
+    QFETCH(Change, change);
     HostWindow window;
+    window.open();
     QCOMPARE(window.takes(), Everything);
     CVyAppModalLock lock(nullptr);
+    change(window);
     QCOMPARE(window.takes(), Nothing);
     lock.unlock();
     QCOMPARE(window.takes(), Everything);
 }
 
+// A timer of the host's opens them, or they wait unseen when the lock is taken.
+void LockContract::takesHimFromLaterWindowsToo()
+{
+    HostWindow window;
+    window.open();
+    HostWindow waiting;
+    HostWindow hidden;
+    hidden.open();
+    hidden.hide();
+    HostWindow palette(&window, Qt::Tool);
+    CVyAppModalLock lock(nullptr);
+    HostWindow later;
+    HostWindow dialog(&window, Qt::Dialog);
+    for (HostWindow* opened : {&waiting, &hidden, &palette, &later, &dialog}) {
+        opened->open();
+        QCOMPARE(opened->takes(), Nothing);
+    }
+    lock.unlock();
+    for (HostWindow* opened : {&waiting, &hidden, &palette, &later, &dialog})
+        QCOMPARE(opened->takes(), Everything);
+}
+
 void LockContract::leavesTheUsableWindow()
 {
+    QFETCH(Change, change);
     HostWindow locked;
+    locked.open();
     HostWindow usable;
+    usable.open();
     const CVyAppModalLock lock(usable.button);
+    change(usable);
     QCOMPARE(locked.takes(), Nothing);
     QCOMPARE(usable.takes(), Everything);
 }
 
-void LockContract::leavesWindowsOpenedLater()
+void LockContract::leavesDialogsOpenedLater_data()
 {
+    QTest::addColumn<Qt::WindowModality>("modality");
+    QTest::addColumn<bool>("madeBefore");
+    for (const bool before : {false, true}) {
+        const char* const made = before ? "made before" : "made later";
+        QTest::addRow("application modal, %s", made) << Qt::ApplicationModal << before;
+        QTest::addRow("window modal, %s", made) << Qt::WindowModal << before;
+    }
+}
+
+void LockContract::leavesDialogsOpenedLater()
+{
+    QFETCH(Qt::WindowModality, modality);
+    QFETCH(bool, madeBefore);
     HostWindow locked;
+    locked.open();
+    auto dialog = std::make_unique<HostWindow>(&locked);
+    dialog->winId();
     const CVyAppModalLock lock(nullptr);
-    HostWindow later;
-    QCOMPARE(later.takes(), Everything);
+    if (!madeBefore)
+        dialog = std::make_unique<HostWindow>(&locked);
+    dialog->setWindowModality(modality);
+    dialog->open();
+    QCOMPARE(dialog->takes(), Everything);
     QCOMPARE(locked.takes(), Nothing);
+    dialog->hide();
+    dialog->open();
+    QCOMPARE(dialog->takes(), Everything);
 }
 
-void LockContract::unlocksTwice()
+// The host asks for a file from a dialog of its own. Shown anew, that comes
+// before everything else, and so must work.
+void LockContract::locksADialogThatWasOpen()
 {
-    HostWindow window;
-    CVyAppModalLock outer(nullptr);
-    CVyAppModalLock inner(nullptr);
-    inner.unlock();
-    inner.unlock();
-    QCOMPARE(window.takes(), Nothing);
-    outer.unlock();
-    QCOMPARE(window.takes(), Everything);
+    HostWindow dialog;
+    dialog.openModal();
+    const CVyAppModalLock lock(nullptr);
+    QCOMPARE(dialog.takesClicks(), false);
+    QCOMPARE(dialog.takes(), Nothing);
+    dialog.hide();
+    dialog.open();
+    QCOMPARE(dialog.takes(), Everything);
 }
 
-void LockContract::unlocksWithItsScope()
+void LockContract::leavesWhatADialogOpens_data()
 {
-    HostWindow window;
+    QTest::addColumn<Qt::WindowFlags>("flags");
+    QTest::newRow("popup") << Qt::WindowFlags(Qt::Popup);
+    QTest::newRow("tool window") << Qt::WindowFlags(Qt::Tool);
+    QTest::newRow("window") << Qt::WindowFlags(Qt::Window);
+}
+
+void LockContract::leavesWhatADialogOpens()
+{
+    QFETCH(Qt::WindowFlags, flags);
+    HostWindow locked;
+    locked.open();
+    const CVyAppModalLock lock(nullptr);
+    HostWindow dialog;
+    dialog.openModal();
+    HostWindow child(&dialog, flags);
+    child.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&child));
+    QVERIFY(child.takesClicks());
+    QVERIFY(child.takesKeys());
+    QVERIFY(child.takesCloseRequests());
+    child.close();
+
+    QWindow bare; // the tie is all that it has
+    bare.setTransientParent(dialog.windowHandle());
+    bare.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bare));
+    QVERIFY(bare.close());
+}
+
+void LockContract::locksWindowsWithoutWidgets()
+{
+    class Bare : public QWindow
     {
-        const CVyAppModalLock lock(nullptr);
-        QCOMPARE(window.takes(), Nothing);
-    }
-    QCOMPARE(window.takes(), Everything);
-}
+    public:
+        int presses = 0;
+        int keys = 0;
 
-void LockContract::nests_data()
-{
-    QTest::addColumn<bool>("innerFirst");
-    QTest::newRow("inner released first") << true;
-    QTest::newRow("outer released first") << false;
-}
-
-void LockContract::nests()
-{
-    QFETCH(bool, innerFirst);
-    HostWindow window;
-    auto outer = std::make_unique<CVyAppModalLock>(nullptr);
-    auto inner = std::make_unique<CVyAppModalLock>(nullptr);
-    innerFirst ? inner.reset() : outer.reset();
-    QCOMPARE(window.takes(), Nothing);
-    innerFirst ? outer.reset() : inner.reset();
-    QCOMPARE(window.takes(), Everything);
-}
-
-void LockContract::changesNoWindow()
-{
-    HostWindow window;
-    QWidget disabled;
-    disabled.setEnabled(false);
-    disabled.setCursor(Qt::CrossCursor);
-    window.edit->setFocus();
-    {
-        const CVyAppModalLock lock(nullptr);
-        QVERIFY(window.isEnabled());
-        QVERIFY(!disabled.isEnabled());
-        QCOMPARE(QApplication::focusWidget(), window.edit);
-    }
-    QVERIFY(window.isEnabled());
-    QVERIFY(!disabled.isEnabled());
-    QCOMPARE(disabled.cursor().shape(), Qt::CrossCursor);
-    QCOMPARE(QApplication::focusWidget(), window.edit);
-}
-
-void LockContract::survivesALockedWindow()
-{
-    auto window = std::make_unique<HostWindow>();
+    protected:
+        void mousePressEvent(QMouseEvent*) override { ++presses; }
+        void keyPressEvent(QKeyEvent*) override { ++keys; }
+    };
+    const auto use = [](Bare& window) {
+        QTest::mouseClick(&window, Qt::LeftButton);
+        QTest::keyClick(&window, Qt::Key_A);
+        return window.presses + window.keys;
+    };
+    Bare bare;
+    bare.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bare));
     CVyAppModalLock lock(nullptr);
-    window.reset();
-    HostWindow later;
-    QCOMPARE(later.takes(), Everything);
+    Bare later;
+    later.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&later));
+    QCOMPARE(use(bare), 0);
+    QCOMPARE(use(later), 0);
+    lock.unlock();
+    QCOMPARE(use(bare), 2);
+    QCOMPARE(use(later), 2);
+}
+
+void LockContract::locksActionsByTheirPlaces_data()
+{
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<bool>("works");
+    QTest::newRow("locked window") << "locked" << false;
+    QTest::newRow("menu of the locked window") << "locked menu" << false;
+    QTest::newRow("menu without a parent, of the locked window") << "locked loose menu" << false;
+    QTest::newRow("usable window") << "usable" << true;
+    QTest::newRow("menu without a parent, of the usable window") << "usable loose menu" << true;
+    QTest::newRow("both windows") << "locked usable" << true;
+}
+
+// With the keys going to the usable window: a shortcut of the whole application
+// works from everywhere. Actions often belong to no window.
+void LockContract::locksActionsByTheirPlaces()
+{
+    QFETCH(QString, place);
+    QFETCH(bool, works);
+    HostWindow locked;
+    locked.open();
+    HostWindow usable;
+    usable.open();
+    QMenu loose;
+    QMenu menu(&locked);
+    QAction action(nullptr);
+    const QSignalSpy triggers(&action, SIGNAL(triggered()));
+    action.setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
+    action.setShortcutContext(Qt::ApplicationShortcut);
+    if (place.contains("menu")) {
+        HostWindow& window = place.contains("locked") ? locked : usable;
+        QMenu& offers = place.contains("loose") ? loose : menu;
+        window.addAction(offers.menuAction());
+        offers.addAction(&action);
+    } else {
+        for (HostWindow* window : {&locked, &usable}) {
+            if (place.contains(window == &locked ? "locked" : "usable"))
+                window->addAction(&action);
+        }
+    }
+    const auto press = [&](HostWindow& window) {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.windowHandle(), Qt::Key_L, Qt::ControlModifier);
+    };
+    CVyAppModalLock lock(&usable);
+    press(locked);
+    QCOMPARE(triggers.size(), 0);
+    press(usable);
+    QCOMPARE(triggers.size(), int(works));
+    lock.unlock();
+    press(usable);
+    QCOMPARE(triggers.size(), works + 1);
 }
 
 QTEST_MAIN(LockContract)

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <QtTest>
+
+/// A window that says what the user gets through to it. It is not shown yet.
+class HostWindow : public QWidget
+{
+public:
+    explicit HostWindow(QWidget* parent = nullptr, Qt::WindowFlags flags = {})
+        : QWidget(parent, flags | Qt::Window)
+        , button(new QPushButton(QStringLiteral("&Press"), this))
+        , edit(new QLineEdit(this))
+    {
+        auto* rows = new QVBoxLayout(this);
+        rows->addWidget(button);
+        rows->addWidget(edit);
+    }
+
+    /// Brings it before the user.
+    void open()
+    {
+        show();
+        activateWindow();
+        if (!QTest::qWaitForWindowActive(this))
+            QTest::qFail("the window did not become active", __FILE__, __LINE__);
+    }
+
+    /// The same, as a dialog.
+    void openModal()
+    {
+        setWindowModality(Qt::ApplicationModal);
+        open();
+    }
+
+    bool takesClicks()
+    {
+        const QSignalSpy clicks(button, SIGNAL(clicked()));
+        QTest::mouseClick(windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          button->mapTo(this, button->rect().center()));
+        QTest::mouseClick(button, Qt::LeftButton);
+        return clicks.size() == 2;
+    }
+    bool takesKeys()
+    {
+        edit->clear();
+        QTest::keyClicks(edit, QStringLiteral("ab"));
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("c"));
+        QApplication::sendEvent(edit, &composed);
+        return edit->text() == QLatin1String("abc");
+    }
+    bool takesWheel()
+    {
+        wheels = 0;
+        QWheelEvent wheel(QPointF(2, 2), mapToGlobal(QPoint(2, 2)), QPoint(), QPoint(0, 120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(windowHandle(), &wheel);
+        return wheels == 1;
+    }
+    bool takesShortcuts()
+    {
+        activateWindow();
+        QCoreApplication::processEvents();
+        const QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+J")), this);
+        const QSignalSpy activations(&shortcut, SIGNAL(activated()));
+        QTest::keyClick(windowHandle(), Qt::Key_J, Qt::ControlModifier);
+        return activations.size() == 1;
+    }
+    bool takesDrops()
+    {
+        QMimeData mime;
+        mime.setText(QStringLiteral("dropped"));
+        QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(edit, &enter);
+        QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        drop.ignore();
+        QApplication::sendEvent(edit, &drop);
+        return drop.isAccepted();
+    }
+    bool takesCloseRequests()
+    {
+        const bool closed = close();
+        show();
+        return closed;
+    }
+    /// All of it, as a list.
+    QString takes()
+    {
+        QStringList list;
+        if (takesClicks())
+            list.append(QStringLiteral("clicks"));
+        if (takesKeys())
+            list.append(QStringLiteral("keys"));
+        if (takesWheel())
+            list.append(QStringLiteral("wheel"));
+        if (takesShortcuts())
+            list.append(QStringLiteral("shortcuts"));
+        if (takesDrops())
+            list.append(QStringLiteral("drops"));
+        if (takesCloseRequests())
+            list.append(QStringLiteral("close requests"));
+        return list.join(QStringLiteral(", "));
+    }
+
+    QPushButton* button;
+    QLineEdit* edit;
+    int wheels = 0;
+
+protected:
+    void wheelEvent(QWheelEvent*) override { ++wheels; }
+};
+
+/// What takes() says of a window that works, and of a locked one.
+inline const QString Everything =
+    QStringLiteral("clicks, keys, wheel, shortcuts, drops, close requests");
+inline const QString Nothing;
