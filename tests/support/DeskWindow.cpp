@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "DeskWindow.h"
+
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace {
+
+QString at(const QString& command, const QPoint& point)
+{
+    return QStringLiteral("%1 %2 %3\n").arg(command).arg(point.x()).arg(point.y());
+}
+
+QPoint centre(const QWidget* widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
+}
+
+} // namespace
+
+DeskWindow::DeskWindow(const QString& title, const QPoint& place)
+    : button(new QPushButton(QStringLiteral("Press"), this))
+    , edit(new QLineEdit(this))
+    , m_windowAction(nullptr)
+    , m_applicationAction(nullptr)
+{
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(button);
+    rows->addStretch();
+    rows->addWidget(edit);
+    setWindowTitle(title);
+    setGeometry(QRect(place, QSize(240, 200)));
+    setAcceptDrops(true);
+
+    m_windowAction.setShortcut(QKeySequence(QStringLiteral("Ctrl+J")));
+    m_applicationAction.setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
+    m_applicationAction.setShortcutContext(Qt::ApplicationShortcut);
+    addActions({&m_windowAction, &m_applicationAction});
+    const auto note = [this](const char* what) { m_reached += QLatin1String(what); };
+    connect(button, &QPushButton::clicked, this, [note] { note("click"); });
+    connect(edit, &QLineEdit::textEdited, this, [note] { note("key"); });
+    connect(&m_windowAction, &QAction::triggered, this, [note] { note("shortcut"); });
+    connect(&m_applicationAction, &QAction::triggered, this,
+            [note] { note("shortcut of the application"); });
+}
+
+void DeskWindow::open()
+{
+    show();
+    activateWindow();
+    if (!QTest::qWaitForWindowActive(this))
+        QTest::qFail("the window did not become active", __FILE__, __LINE__);
+    QTest::qWait(100); // until the window manager has placed its frame
+}
+
+QPoint DeskWindow::closeButton() const
+{
+    return frameGeometry().topRight() + QPoint(-12, 12);
+}
+
+QPoint DeskWindow::middle() const
+{
+    return centre(this);
+}
+
+QString DeskWindow::tryEverything(const QPoint& source) const
+{
+    const QString drag = QStringLiteral("drag %1 %2").arg(source.x()).arg(source.y());
+    return tryMouseAndKeys() +
+           QStringLiteral("xdotool key ctrl+j; xdotool key ctrl+k; sleep 0.1\n") +
+           at(QStringLiteral("wheel"), middle()) + at(QStringLiteral("click"), closeButton()) +
+           at(drag, middle());
+}
+
+QString DeskWindow::tryMouseAndKeys() const
+{
+    return at(QStringLiteral("click"), centre(button)) + at(QStringLiteral("click"), centre(edit)) +
+           QStringLiteral("xdotool key a; sleep 0.1\n");
+}
+
+QString DeskWindow::everything()
+{
+    return mouseAndKeys() +
+           QStringLiteral(", shortcut, shortcut of the application, wheel, close request, drop");
+}
+
+QString DeskWindow::mouseAndKeys()
+{
+    return QStringLiteral("click, key");
+}
+
+QString DeskWindow::takeReached()
+{
+    const QString reached = m_reached.join(QStringLiteral(", "));
+    m_reached.clear();
+    return reached;
+}
+
+void DeskWindow::wheelEvent(QWheelEvent*)
+{
+    m_reached += QStringLiteral("wheel");
+}
+
+void DeskWindow::closeEvent(QCloseEvent* event)
+{
+    m_reached += QStringLiteral("close request");
+    event->ignore();
+}
+
+void DeskWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->acceptProposedAction();
+}
+
+void DeskWindow::dropEvent(QDropEvent* event)
+{
+    m_reached += QStringLiteral("drop");
+    event->acceptProposedAction();
+}
+
+DragSource::DragSource()
+    : m_process(new QProcess)
+{
+    m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process->start(QStringLiteral(VY_DRAG_SOURCE), {});
+    if (!m_process->waitForReadyRead(20000))
+        QTest::qFail("the other program did not start", __FILE__, __LINE__);
+}
+
+DragSource::~DragSource()
+{
+    m_process->closeWriteChannel(); // ends it
+    m_process->waitForFinished();
+}
