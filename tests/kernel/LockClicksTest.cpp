@@ -1,21 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The application-modal lock against a real user: real clicks, keys and drags on
-// a real display, at windows of every make, and what he had begun before.
-#include "DeskUser.h"
+// a real display, at windows of every make.
+#include "DeskMarker.h"
 #include "DeskWindow.h"
 #include "VyAppModalLock.h"
 
 #include <QApplication>
 #include <QDockWidget>
-#include <QDrag>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QToolButton>
 #include <QWindow>
 #include <QtTest>
 
@@ -23,45 +18,6 @@
 #include <memory>
 
 namespace {
-
-// A window that goes on working. The server delivers what the user does in its
-// order, so what he did before he clicked here has arrived when this has.
-class Marker : public QPushButton
-{
-public:
-    Marker()
-    {
-        setWindowTitle(QStringLiteral("Marker"));
-        setGeometry(900, 800, 200, 100);
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
-            QTest::qFail("the window did not become active", __FILE__, __LINE__);
-        QTest::qWait(100); // until the window manager has placed its frame
-    }
-
-    // The user, at the window that is active, and at last here.
-    void afterUser(const QString& commands)
-    {
-        const QSignalSpy clicks(this, SIGNAL(clicked()));
-        const QPoint centre = mapToGlobal(rect().center());
-        DeskUser user(QApplication::activeWindow()->windowTitle(),
-                      commands + QStringLiteral("\nclick %1 %2").arg(centre.x()).arg(centre.y()));
-        user.wait();
-        QTRY_COMPARE(clicks.size(), 1);
-    }
-};
-
-QPoint centre(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
-
-QString pointAt(const QWidget* widget)
-{
-    const QPoint point = centre(widget);
-    return QStringLiteral("point %1 %2\n").arg(point.x()).arg(point.y());
-}
 
 // A window without widgets.
 class Bare : public QWindow
@@ -111,7 +67,7 @@ private Q_SLOTS:
 void LockClicksTest::locksEverything()
 {
     const DragSource source;
-    Marker marker;
+    DeskMarker marker;
     DeskWindow window(QStringLiteral("Host"));
     window.open();
     const QString commands = window.tryEverything(DragSource::place());
@@ -157,7 +113,7 @@ void LockClicksTest::locksWindow_data()
 void LockClicksTest::locksWindow()
 {
     QFETCH(Life, life);
-    Marker marker;
+    DeskMarker marker;
     DeskWindow window(QStringLiteral("Host"));
     life.before(window);
     CVyAppModalLock lock(&marker);
@@ -171,7 +127,7 @@ void LockClicksTest::locksWindow()
 
 void LockClicksTest::locksADockFloatedMeanwhile()
 {
-    Marker marker;
+    DeskMarker marker;
     QMainWindow window;
     window.setWindowTitle(QStringLiteral("Host"));
     window.setGeometry(10, 40, 300, 300);
@@ -186,16 +142,16 @@ void LockClicksTest::locksADockFloatedMeanwhile()
     dock->setFloating(true);
     dock->setGeometry(400, 100, 200, 150);
     QTest::qWait(100);
-    marker.afterUser(pointAt(button) + "xdotool click 1");
+    marker.afterUser(clickOn(*button));
     QCOMPARE(clicks.size(), 0);
     lock.unlock();
-    marker.afterUser(pointAt(button) + "xdotool click 1");
+    marker.afterUser(clickOn(*button));
     QCOMPARE(clicks.size(), 1);
 }
 
 void LockClicksTest::locksAWindowWithoutWidgets()
 {
-    Marker marker;
+    DeskMarker marker;
     Bare window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "DeskUser.h"
 
+#include <QWidget>
 #include <QtTest>
 
 namespace {
 
 constexpr int PatienceMs = 40000;
 
-// click X Y, wheel X Y: at a point of the screen. The pointer rests before a
-// button goes down, as a hand does.
+// point X Y, click X Y, wheel X Y: at a point of the screen. The pointer rests
+// before a button goes down, as a hand does.
 // drag X Y X Y: from the one point to the other.
 // active TITLE: waits until that window has the keyboard.
 // activate TITLE: goes to the window through the window manager.
@@ -50,6 +51,16 @@ const char script[] = R"(
     echo done
 )";
 
+QString at(const char* command, const QPoint& place)
+{
+    return QStringLiteral("%1 %2 %3\n").arg(QLatin1String(command)).arg(place.x()).arg(place.y());
+}
+
+QPoint centre(const QWidget& widget)
+{
+    return widget.mapToGlobal(widget.rect().center());
+}
+
 } // namespace
 
 DeskUser::DeskUser(const QString& title, const QString& commands)
@@ -86,4 +97,24 @@ void DeskUser::finish()
     if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(PatienceMs))
         QTest::qFail("the user did not come to an end", __FILE__, __LINE__);
     m_output += m_process.readAllStandardOutput();
+}
+
+QString pointAt(const QPoint& place)
+{
+    return at("point", place);
+}
+
+QString pointAt(const QWidget& widget)
+{
+    return pointAt(centre(widget));
+}
+
+QString clickOn(const QPoint& place)
+{
+    return at("click", place);
+}
+
+QString clickOn(const QWidget& widget)
+{
+    return clickOn(centre(widget));
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPoint>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+
+class QWidget;
 
 /// A user at the mouse and the keyboard of the real display, in a process of his
 /// own: what he does goes on while this one is busy.
@@ -30,3 +33,11 @@ private:
     QProcess m_process;
     QByteArray m_output;
 };
+
+/// Commands: to be over a point of the screen, and over the middle of a widget.
+QString pointAt(const QPoint& place);
+QString pointAt(const QWidget& widget);
+
+/// Commands: to click there.
+QString clickOn(const QPoint& place);
+QString clickOn(const QWidget& widget);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DeskWindow.h"
 
+#include "DeskUser.h"
+
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
@@ -8,20 +10,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <QtTest>
-
-namespace {
-
-QString at(const QString& command, const QPoint& point)
-{
-    return QStringLiteral("%1 %2 %3\n").arg(command).arg(point.x()).arg(point.y());
-}
-
-QPoint centre(const QWidget* widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
-
-} // namespace
 
 DeskWindow::DeskWindow(const QString& title, const QPoint& place)
     : button(new QPushButton(QStringLiteral("Press"), this))
@@ -65,28 +53,31 @@ QPoint DeskWindow::closeButton() const
 
 QPoint DeskWindow::middle() const
 {
-    return centre(this);
+    return mapToGlobal(rect().center());
 }
 
 QString DeskWindow::tryEverything(const QPoint& source) const
 {
-    const QString drag = QStringLiteral("drag %1 %2").arg(source.x()).arg(source.y());
+    const QPoint target = middle();
+    const QString wheelAndDrag = QStringLiteral("wheel %3 %4\ndrag %1 %2 %3 %4\n")
+                                     .arg(source.x())
+                                     .arg(source.y())
+                                     .arg(target.x())
+                                     .arg(target.y());
     return tryMouseAndKeys() +
-           QStringLiteral("xdotool key ctrl+j; xdotool key ctrl+k; sleep 0.1\n") +
-           at(QStringLiteral("wheel"), middle()) + at(QStringLiteral("click"), closeButton()) +
-           at(drag, middle());
+           QStringLiteral("xdotool key ctrl+j; xdotool key ctrl+k; sleep 0.1\n") + wheelAndDrag +
+           clickOn(closeButton());
 }
 
 QString DeskWindow::tryMouseAndKeys() const
 {
-    return at(QStringLiteral("click"), centre(button)) + at(QStringLiteral("click"), centre(edit)) +
-           QStringLiteral("xdotool key a; sleep 0.1\n");
+    return clickOn(*button) + clickOn(*edit) + QStringLiteral("xdotool key a; sleep 0.1\n");
 }
 
 QString DeskWindow::everything()
 {
     return mouseAndKeys() +
-           QStringLiteral(", shortcut, shortcut of the application, wheel, close request, drop");
+           QStringLiteral(", shortcut, shortcut of the application, wheel, drop, close request");
 }
 
 QString DeskWindow::mouseAndKeys()
