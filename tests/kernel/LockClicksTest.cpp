@@ -73,10 +73,10 @@ void LockClicksTest::locksEverything()
     const QString commands = window.tryEverything(DragSource::place());
     CVyAppModalLock lock(&marker);
     marker.afterUser(commands);
-    QCOMPARE(window.takeReached(), QString());
+    QCOMPARE(window.reached(), QString());
     lock.unlock();
     marker.afterUser(commands);
-    QCOMPARE(window.takeReached(), DeskWindow::everything());
+    QCOMPARE(window.reached(), DeskWindow::everything());
 }
 
 void LockClicksTest::locksWindow_data()
@@ -119,10 +119,10 @@ void LockClicksTest::locksWindow()
     CVyAppModalLock lock(&marker);
     life.meanwhile(window);
     marker.afterUser(window.tryMouseAndKeys());
-    QCOMPARE(window.takeReached(), QString());
+    QCOMPARE(window.reached(), QString());
     lock.unlock();
     marker.afterUser(window.tryMouseAndKeys());
-    QCOMPARE(window.takeReached(), DeskWindow::mouseAndKeys());
+    QCOMPARE(window.reached(), DeskWindow::mouseAndKeys());
 }
 
 void LockClicksTest::locksADockFloatedMeanwhile()

@@ -12,7 +12,8 @@ constexpr int PatienceMs = 40000;
 // before a button goes down, as a hand does.
 // drag X Y X Y: from the one point to the other.
 // active TITLE: waits until that window has the keyboard.
-// activate TITLE: goes to the window through the window manager.
+// activate TITLE: goes to the window through the window manager. GNUstep ignores
+// the first request now and then.
 const char script[] = R"(
     set -u
     point() { xdotool mousemove "$1" "$2"; sleep 0.1; }
@@ -43,7 +44,12 @@ const char script[] = R"(
         exit 1
     }
     activate() {
-        xdotool search --onlyvisible --name "^$1\$" windowactivate >/dev/null 2>&1
+        local tries
+        for ((tries = 0; tries < 10; ++tries)); do
+            xdotool search --onlyvisible --name "^$1\$" windowactivate >/dev/null 2>&1
+            sleep 0.2
+            is_active "$1" && break
+        done
         active "$1"
     }
     active "$1"

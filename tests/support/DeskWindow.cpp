@@ -85,11 +85,9 @@ QString DeskWindow::mouseAndKeys()
     return QStringLiteral("click, key");
 }
 
-QString DeskWindow::takeReached()
+QString DeskWindow::reached() const
 {
-    const QString reached = m_reached.join(QStringLiteral(", "));
-    m_reached.clear();
-    return reached;
+    return m_reached.join(QStringLiteral(", "));
 }
 
 void DeskWindow::wheelEvent(QWheelEvent*)

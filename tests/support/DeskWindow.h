@@ -30,9 +30,9 @@ public:
     /// A click and typing.
     QString tryMouseAndKeys() const;
 
-    /// What has reached it since the last call.
-    QString takeReached();
-    /// What takeReached() answers after these.
+    /// What has reached it, in its order.
+    QString reached() const;
+    /// What reached() answers after these.
     static QString everything();
     static QString mouseAndKeys();
 
