@@ -161,10 +161,7 @@ private:
 
     bool isWidgetFree(const QWidget* widget) const
     {
-        if (!widget)
-            return false;
-        const QWidget* const window = widget->window();
-        return isWindowFree(window->windowHandle()) || isWidgetFree(window->parentWidget());
+        return isWindowFree(widget->window()->windowHandle());
     }
 
     // An action is where it is offered, whoever its parent is.

@@ -43,8 +43,12 @@ public:
     bool takesClicks()
     {
         const QSignalSpy clicks(button, SIGNAL(clicked()));
-        QTest::mouseClick(windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                          button->mapTo(this, button->rect().center()));
+        const QPoint middle = button->rect().center();
+        if (QWindow* const native = button->windowHandle())
+            QTest::mouseClick(native, Qt::LeftButton, Qt::NoModifier, middle);
+        else
+            QTest::mouseClick(windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              button->mapTo(this, middle));
         QTest::mouseClick(button, Qt::LeftButton);
         return clicks.size() == 2;
     }
