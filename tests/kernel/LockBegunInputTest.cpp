@@ -56,6 +56,12 @@ protected:
         told += rect().contains(event->pos()) ? QStringLiteral("release inside")
                                               : QStringLiteral("release outside");
     }
+    void dragEnterEvent(QDragEnterEvent* event) override { event->acceptProposedAction(); }
+    void dropEvent(QDropEvent* event) override
+    {
+        told += QStringLiteral("drop");
+        event->acceptProposedAction();
+    }
 };
 
 const QString Press = QStringLiteral("xdotool mousedown 1; sleep 0.2\n");
@@ -162,6 +168,7 @@ void LockBegunInputTest::aDragIsCancelled()
 {
     DeskMarker marker;
     auto* view = new View;
+    view->setAcceptDrops(true);
     const Window window(view);
     std::unique_ptr<CVyAppModalLock> lock;
     Qt::DropAction dropped = Qt::TargetMoveAction;
@@ -185,6 +192,7 @@ void LockBegunInputTest::aDragIsCancelled()
     QVERIFY(lock);
     QVERIFY(endedAtOnce); // not by a click elsewhere
     QCOMPARE(dropped, Qt::IgnoreAction);
+    QVERIFY(!view->told.contains("drop"));
 }
 
 // It would keep mouse and keyboard from a dialog that is no window of Qt's.

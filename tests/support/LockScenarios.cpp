@@ -4,9 +4,11 @@
 #include "DeskUser.h"
 #include "DeskWindow.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
@@ -17,11 +19,15 @@ const QPoint OtherPlace(10, 740);
 
 // The window that has the keyboard when the request is made. Some window managers
 // give the keyboard to the dialog when that window is clicked.
-class AskingWindow : public QToolButton
+class AskingWindow : public QWidget
 {
 public:
     AskingWindow()
+        : button(new QToolButton(this))
     {
+        auto* rows = new QVBoxLayout(this);
+        rows->addWidget(button);
+        rows->addWidget(new QLineEdit); // has the focus
         setWindowTitle(QStringLiteral("Asks"));
         setGeometry(10, 400, 150, 100);
         show();
@@ -30,6 +36,8 @@ public:
             QTest::qFail("the window did not become active", __FILE__, __LINE__);
         QTest::qWait(100); // until the window manager has placed its frame
     }
+
+    QToolButton* const button;
 };
 
 QString toDialog(const HostRequest& request, const QString& finish)
@@ -95,7 +103,8 @@ void LockScenarios::clicksOnALaterWindow(HostRequest& request, const QString& fi
 
 void LockScenarios::aButtonHeldDown(HostRequest& request, const QString& finish, int expected)
 {
-    AskingWindow button;
+    AskingWindow window;
+    QToolButton& button = *window.button;
     const QSignalSpy clicks(&button, SIGNAL(clicked()));
     bool isDownMeanwhile = true;
     const auto asking = QObject::connect(&button, &QToolButton::pressed, [&] {
@@ -103,7 +112,7 @@ void LockScenarios::aButtonHeldDown(HostRequest& request, const QString& finish,
         request.getFileName({});
     });
     {
-        DeskUser user(button.windowTitle(), pointAt(button) +
+        DeskUser user(window.windowTitle(), pointAt(button) +
                                                 QStringLiteral("xdotool mousedown 1; active '%1'\n"
                                                                "sleep 0.3; xdotool mouseup 1\n")
                                                     .arg(request.title) +
@@ -117,8 +126,8 @@ void LockScenarios::aButtonHeldDown(HostRequest& request, const QString& finish,
     QCOMPARE(clicks.size(), 0);
 
     QObject::disconnect(asking);
-    button.activateWindow();
-    DeskUser(button.windowTitle(), clickOn(button)).wait();
+    window.activateWindow();
+    DeskUser(window.windowTitle(), clickOn(button)).wait();
     QTRY_COMPARE(clicks.size(), 1);
 }
 

@@ -40,9 +40,11 @@ public:
         open();
     }
 
-    bool takesClicks()
+    /// Through the window and straight.
+    bool takesClicks() { return clicks() == 2; }
+    int clicks()
     {
-        const QSignalSpy clicks(button, SIGNAL(clicked()));
+        const QSignalSpy clicked(button, SIGNAL(clicked()));
         const QPoint middle = button->rect().center();
         if (QWindow* const native = button->windowHandle())
             QTest::mouseClick(native, Qt::LeftButton, Qt::NoModifier, middle);
@@ -50,16 +52,21 @@ public:
             QTest::mouseClick(windowHandle(), Qt::LeftButton, Qt::NoModifier,
                               button->mapTo(this, middle));
         QTest::mouseClick(button, Qt::LeftButton);
-        return clicks.size() == 2;
+        return clicked.size();
     }
     bool takesKeys()
     {
         edit->clear();
         QTest::keyClicks(edit, QStringLiteral("ab"));
+        return edit->text() == QLatin1String("ab");
+    }
+    bool takesComposedText()
+    {
+        edit->clear();
         QInputMethodEvent composed;
         composed.setCommitString(QStringLiteral("c"));
         QApplication::sendEvent(edit, &composed);
-        return edit->text() == QLatin1String("abc");
+        return edit->text() == QLatin1String("c");
     }
     bool takesWheel()
     {
@@ -99,10 +106,12 @@ public:
     QString takes()
     {
         QStringList list;
-        if (takesClicks())
-            list.append(QStringLiteral("clicks"));
+        if (const int count = clicks())
+            list.append(count == 2 ? QStringLiteral("clicks") : QStringLiteral("some clicks"));
         if (takesKeys())
             list.append(QStringLiteral("keys"));
+        if (takesComposedText())
+            list.append(QStringLiteral("composed text"));
         if (takesWheel())
             list.append(QStringLiteral("wheel"));
         if (takesShortcuts())
@@ -124,5 +133,5 @@ protected:
 
 /// What takes() says of a window that works, and of a locked one.
 inline const QString Everything =
-    QStringLiteral("clicks, keys, wheel, shortcuts, drops, close requests");
+    QStringLiteral("clicks, keys, composed text, wheel, shortcuts, drops, close requests");
 inline const QString Nothing;
