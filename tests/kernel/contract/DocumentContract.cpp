@@ -19,6 +19,7 @@ private Q_SLOTS:
     void handsOutItsView();
     void needsNoView();
     void forgetsADeletedView();
+    void forgetsAViewDeletedWithItsWindow();
     void leavesTheViewToTheHost();
     void theLatestIsActive();
     void noneIsLeftByAClosedOne();
@@ -49,6 +50,15 @@ void DocumentContract::forgetsADeletedView()
     auto view = std::make_unique<QWidget>();
     KernelUnderTest::openDocument(view.get());
     view.reset();
+    QVERIFY(ACTIVE_DOCUMENT());
+    QVERIFY(!ACTIVE_DOCUMENT()->GetViewWidget());
+}
+
+void DocumentContract::forgetsAViewDeletedWithItsWindow()
+{
+    auto window = std::make_unique<QWidget>();
+    KernelUnderTest::openDocument(new QWidget(window.get()));
+    window.reset();
     QVERIFY(ACTIVE_DOCUMENT());
     QVERIFY(!ACTIVE_DOCUMENT()->GetViewWidget());
 }
