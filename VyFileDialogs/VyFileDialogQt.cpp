@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QPointer>
 #include <QThread>
 
 namespace {
@@ -38,18 +39,26 @@ public:
     {
         if (QWidget* view = activeView()) {
             m_saved = view->cursor();
+            if (!view->testAttribute(Qt::WA_SetCursor))
+                m_follower = view;
             view->setCursor(Qt::ArrowCursor);
         }
     }
     ~ViewCursor()
     {
-        if (QWidget* view = activeView())
+        QWidget* const view = activeView();
+        if (!view)
+            return;
+        if (view == m_follower)
+            view->unsetCursor();
+        else
             view->setCursor(m_saved);
     }
     Q_DISABLE_COPY(ViewCursor)
 
 private:
     QCursor m_saved;
+    QPointer<QWidget> m_follower; ///< a view that has its window's cursor
 };
 
 // Deletes the dialog widget however show() ends.
