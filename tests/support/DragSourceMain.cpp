@@ -26,9 +26,9 @@ protected:
     void mousePressEvent(QMouseEvent*) override
     {
         auto* drag = new QDrag(this);
-        auto* data = new QMimeData;
-        data->setText(QStringLiteral("text of another program"));
-        drag->setMimeData(data);
+        auto* text = new QMimeData;
+        text->setText(QStringLiteral("text of another program"));
+        drag->setMimeData(text);
         drag->exec(Qt::CopyAction);
     }
     void paintEvent(QPaintEvent*) override

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
@@ -16,11 +17,14 @@ class HostWindow : public QWidget
 public:
     explicit HostWindow(QWidget* parent = nullptr, Qt::WindowFlags flags = {})
         : QWidget(parent, flags | Qt::Window)
-        , button(new QPushButton(QStringLiteral("&Press"), this))
+        , button(new QPushButton(QStringLiteral("Press"), this))
         , edit(new QLineEdit(this))
     {
         auto* rows = new QVBoxLayout(this);
+        auto* name = new QLabel(QStringLiteral("&Name"));
+        name->setBuddy(edit);
         rows->addWidget(button);
+        rows->addWidget(name);
         rows->addWidget(edit);
     }
 
@@ -85,6 +89,14 @@ public:
         QTest::keyClick(windowHandle(), Qt::Key_J, Qt::ControlModifier);
         return activations.size() == 1;
     }
+    bool takesMnemonics()
+    {
+        activateWindow();
+        QCoreApplication::processEvents();
+        button->setFocus();
+        QTest::keyClick(windowHandle(), Qt::Key_N, Qt::AltModifier);
+        return focusWidget() == edit;
+    }
     bool takesDrops()
     {
         QMimeData mime;
@@ -116,6 +128,8 @@ public:
             list.append(QStringLiteral("wheel"));
         if (takesShortcuts())
             list.append(QStringLiteral("shortcuts"));
+        if (takesMnemonics())
+            list.append(QStringLiteral("mnemonics"));
         if (takesDrops())
             list.append(QStringLiteral("drops"));
         if (takesCloseRequests())
@@ -132,6 +146,6 @@ protected:
 };
 
 /// What takes() says of a window that works, and of a locked one.
-inline const QString Everything =
-    QStringLiteral("clicks, keys, composed text, wheel, shortcuts, drops, close requests");
+inline const QString Everything = QStringLiteral(
+    "clicks, keys, composed text, wheel, shortcuts, mnemonics, drops, close requests");
 inline const QString Nothing;

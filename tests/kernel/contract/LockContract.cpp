@@ -57,6 +57,7 @@ private Q_SLOTS:
     void locksADialogThatWasOpen();
     void leavesWhatADialogOpens_data();
     void leavesWhatADialogOpens();
+    void staysOpenWhenAllAreClosed();
     void locksWindowsWithoutWidgets();
     void locksActionsByTheirPlaces_data();
     void locksActionsByTheirPlaces();
@@ -78,16 +79,16 @@ void LockContract::takesTheUserAway()
 // A timer of the host's opens them, or they wait unseen when the lock is taken.
 void LockContract::takesHimFromLaterWindowsToo()
 {
-    HostWindow window;
-    window.open();
+    QWidget owner;
+    owner.show();
     HostWindow waiting;
     HostWindow hidden;
     hidden.open();
     hidden.hide();
-    HostWindow palette(&window, Qt::Tool);
+    HostWindow palette(&owner, Qt::Tool);
     CVyAppModalLock lock(nullptr);
     HostWindow later;
-    HostWindow dialog(&window, Qt::Dialog);
+    HostWindow dialog(&owner, Qt::Dialog);
     for (HostWindow* opened : {&waiting, &hidden, &palette, &later, &dialog}) {
         opened->open();
         QCOMPARE(opened->takes(), Nothing);
@@ -184,6 +185,22 @@ void LockContract::leavesWhatADialogOpens()
     bare.show();
     QVERIFY(QTest::qWaitForWindowExposed(&bare));
     QVERIFY(bare.close());
+}
+
+// As at the end of a session, or when the host is told to quit.
+void LockContract::staysOpenWhenAllAreClosed()
+{
+    HostWindow window;
+    window.open();
+    CVyAppModalLock lock(nullptr);
+    HostWindow dialog;
+    dialog.openModal();
+    QApplication::closeAllWindows();
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(window.isVisible());
+    lock.unlock();
+    QApplication::closeAllWindows();
+    QVERIFY(!window.isVisible());
 }
 
 void LockContract::locksWindowsWithoutWidgets()
