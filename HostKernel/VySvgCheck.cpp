@@ -19,7 +19,6 @@ namespace VySvgCheck {
 namespace {
 
 constexpr int mostBytes = 1024 * 1024;
-constexpr int mostElements = 20000;
 constexpr std::size_t mostLevels = 32;
 constexpr int largestSide = 256; // pixels
 constexpr double largestFont = 1000;
@@ -290,7 +289,7 @@ public:
             if (!take(m_xml.readNext()))
                 return {};
         }
-        return m_xml.hasError() ? Drawing() : m_drawing;
+        return m_drawing;
     }
 
 private:
@@ -302,7 +301,7 @@ private:
                    m_xml.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) ==
                        0;
         case QXmlStreamReader::StartElement:
-            return ++m_elements <= mostElements && m_open.size() < mostLevels && takeElement();
+            return m_open.size() < mostLevels && takeElement();
         case QXmlStreamReader::EndElement:
             m_open.pop_back();
             return true;
@@ -311,7 +310,7 @@ private:
         case QXmlStreamReader::Comment:
         case QXmlStreamReader::EndDocument:
             return true;
-        default: // a document type, an entity, a processing instruction
+        default: // an error, a document type, an entity, a processing instruction
             return false;
         }
     }
@@ -380,7 +379,6 @@ private:
     QXmlStreamReader m_xml;
     Drawing m_drawing;
     std::vector<OpenElement> m_open;
-    int m_elements = 0;
     double m_cost = 0;
 };
 

@@ -28,10 +28,10 @@ struct Drawing
 /// CSS's units of 96 to the inch, or of the viewBox where one of them is missing or
 /// a share; it is held against VyPreviewLimits like that of any picture.
 ///
-/// A file has at most 1 MiB, 20000 elements in 32 levels, and numbers up to ten
-/// million; and what its outlines, areas, dashes and letters cost at 256 pixels,
-/// where Qt 5.15 draws them some twenty times faster than at 512, is added up with
-/// measured prices to about a second.
+/// A file has at most 1 MiB, 32 levels of elements and numbers up to ten million.
+/// What its elements, outlines, areas, dashes and letters cost at 256 pixels, where
+/// Qt 5.15 draws long outlines some twenty times faster than at 512, is added up with
+/// measured prices and must come to less than a second.
 Drawing check(const QByteArray& svg);
 
 } // namespace VySvgCheck
