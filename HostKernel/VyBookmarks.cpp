@@ -30,7 +30,7 @@ std::unique_ptr<CVyBookmarkList>& usedList()
 bool isFolderName(const QString& name)
 {
     return name != QLatin1String(".") && name != QLatin1String("..") &&
-           !name.contains(QLatin1Char('/')) && !name.contains(QDir::separator());
+           !name.contains(QLatin1Char('/'));
 }
 
 // Empty where there is no folder that is the application's own.

@@ -97,10 +97,11 @@ class CVySystemBookmark;
 /// the first 1000. In all these cases a warning says what was lost, and the
 /// file is kept as it was beside the new one, which is written at once: with
 /// ".damaged-1" after its name, where an earlier one has become ".damaged-2", and
-/// so on up to 5; a warning says when the fifth is deleted to make room. A link to
-/// an intact file is written through; one to a damaged file is itself what is
-/// kept, and the file that it leads to is left alone. A process that still has the list in memory
-/// loses nothing. No such file, or an intact one without entries, is an empty list.
+/// so on up to 5; a warning says when the fifth is deleted to make room. A link
+/// to an intact file is written through; one to a damaged file is itself what is
+/// kept, and the file that it leads to is left alone. A process that still has
+/// the list in memory loses nothing. No such file, or an intact one without
+/// entries, is an empty list.
 ///
 /// Beside the file, or the link, there is another one with ".lock" after its name
 /// while it is being written; all processes should therefore take the same path.
@@ -121,7 +122,7 @@ struct VyBookmark
 /// Names the file that the list is kept in, before the list is first asked for
 /// or changed; the empty string keeps it in memory alone. A relative path is
 /// taken from the folder that is current now. Its folder is made when something
-/// is first written.
+/// is first written, and may be another user's: that is the host's to know.
 ///
 /// Answers false, changes nothing and warns when the list has been used.
 VY_HOSTKERNEL_EXPORT bool VySetBookmarkFile(const QString& file);

@@ -1,14 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The file that the list is kept in: that it comes back, whose it is, and where
-// it cannot be written.
+// The file that the list is kept in: that it comes back, and whose it is.
 #include "BookmarkTest.h"
-#include "PlainUser.h"
 
-#include <QLockFile>
-
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -17,31 +10,6 @@ QString numbered(int number)
 {
     return QStringLiteral("/plans/%1.dwg").arg(number);
 }
-
-// No file of the process grows beyond it while this lives, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = m_limit;
-        limit.rlim_cur = bytes;
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            qFatal("no limit");
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(FullDisk)
-
-private:
-    rlimit m_limit = {};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 
@@ -63,13 +31,6 @@ private Q_SLOTS:
     void isWrittenThroughLinks_data();
     void isWrittenThroughLinks();
     void staysInMemoryAlone();
-    void goesOnInMemory_data();
-    void goesOnInMemory();
-    void survivesAFullDisk();
-    void keepsADamagedFileOnAFullDisk();
-    void waitsForOthersBriefly();
-    void ignoresAStaleLock_data();
-    void ignoresAStaleLock();
     void ignoresWhatACrashLeaves();
     void refusesLongPaths();
 };
@@ -231,179 +192,6 @@ void BookmarkStoreTest::staysInMemoryAlone()
     list.clear();
     QCOMPARE(paths(list), QStringList());
     QCOMPARE(names(), QStringList());
-}
-
-void BookmarkStoreTest::goesOnInMemory_data()
-{
-    QTest::addColumn<QString>("obstacle");
-    QTest::addColumn<QString>("reason");
-
-    QTest::newRow("file for a folder") << "file"
-                                       << "its folder cannot be made";
-    QTest::newRow("read-only folder") << "read-only"
-                                      << "its folder cannot be written to";
-    QTest::newRow("folder without entry") << "no entry"
-                                          << "its folder cannot be written to";
-    QTest::newRow("read-only file") << "read-only file"
-                                    << "not written";
-    QTest::newRow("FIFO for the lock") << "lock fifo"
-                                       << "bookmarks.jsonl.lock is not a file";
-    QTest::newRow("folder for the lock") << "lock folder"
-                                         << "bookmarks.jsonl.lock is not a file";
-    QTest::newRow("dangling link for the lock") << "lock link"
-                                                << "bookmarks.jsonl.lock is not a file";
-}
-
-// Once said; and when the obstacle is gone, nothing has been lost.
-void BookmarkStoreTest::goesOnInMemory()
-{
-    QFETCH(QString, obstacle);
-    QFETCH(QString, reason);
-    const QString folder = in("data");
-    const QString file = folder + "/bookmarks.jsonl";
-    const auto mode = [&folder](mode_t bits) {
-        return chmod(QFile::encodeName(folder).constData(), bits) == 0;
-    };
-    QVERIFY(chmod(QFile::encodeName(in(".")).constData(), 0755) == 0);
-    if (obstacle == "file") {
-        newFile("data");
-    } else {
-        QVERIFY(QDir().mkpath(folder));
-        newFile("data/bookmarks.jsonl", storeText({"/before"}));
-        QVERIFY(chmod(QFile::encodeName(file).constData(), 0666) == 0);
-    }
-    if (obstacle == "read-only file")
-        QVERIFY(chmod(QFile::encodeName(file).constData(), 0444) == 0 && mode(0777));
-    if (obstacle == "read-only")
-        QVERIFY(mode(0555));
-    if (obstacle == "no entry")
-        QVERIFY(mode(0));
-    if (obstacle == "lock fifo")
-        QCOMPARE(mkfifo(QFile::encodeName(file + ".lock").constData(), 0666), 0);
-    if (obstacle == "lock folder")
-        QVERIFY(QDir().mkpath(file + ".lock"));
-    if (obstacle == "lock link")
-        QVERIFY(QFile::link(in("nowhere"), file + ".lock"));
-
-    CVyBookmarkList list(file);
-    const QStringList before =
-        obstacle == "file" || obstacle == "no entry" ? QStringList() : QStringList("/before");
-    {
-        const PlainUser user;
-        add(list, "/a");
-        add(list, "/b");
-        QCOMPARE(paths(list), QStringList({"/b", "/a"}) + before);
-    }
-    const QStringList messages = takeMessages();
-    QCOMPARE(messages.size(), 1);
-    QVERIFY(messages[0].startsWith("VyHostKernel: bookmarks: " + file +
-                                   " is not written, the list goes on in memory: "));
-    QVERIFY2(messages[0].contains(QRegularExpression(reason)), qPrintable(messages[0]));
-
-    if (obstacle == "file")
-        QVERIFY(QFile::remove(folder));
-    else
-        QVERIFY(mode(0777));
-    if (obstacle == "lock folder")
-        QVERIFY(QDir(file + ".lock").removeRecursively());
-    else
-        QFile::remove(file + ".lock");
-    QVERIFY(!QFile::exists(file) || chmod(QFile::encodeName(file).constData(), 0666) == 0);
-    add(list, "/c");
-    CVyBookmarkList again(file);
-    QCOMPARE(paths(again), QStringList({"/c", "/b", "/a"}) +
-                               (obstacle == "file" ? QStringList() : QStringList("/before")));
-}
-
-void BookmarkStoreTest::survivesAFullDisk()
-{
-    CVyBookmarkList list(store());
-    for (int number = 1; number <= 30; ++number)
-        add(list, numbered(number));
-    const QByteArray text = textOf(store());
-    {
-        const FullDisk disk(1000);
-        add(list, "/a");
-        add(list, "/b");
-        QCOMPARE(textOf(store()), text);
-        QCOMPARE(names(), QStringList("bookmarks.jsonl"));
-        QCOMPARE(paths(list).mid(0, 3), QStringList({"/b", "/a", numbered(30)}));
-        QVERIFY(takeMessages().join(";").contains("the list goes on in memory: "));
-    }
-    add(list, "/c");
-    QCOMPARE(storedPaths().mid(0, 4), QStringList({"/c", "/b", "/a", numbered(30)}));
-    QCOMPARE(storedPaths().size(), 33);
-}
-
-void BookmarkStoreTest::keepsADamagedFileOnAFullDisk()
-{
-    QStringList many;
-    for (int number = 1; number <= 30; ++number)
-        many.append(numbered(number));
-    const QByteArray text = storeText(many) + "damaged\n";
-    newFile("bookmarks.jsonl", text);
-    {
-        const FullDisk disk(1000);
-        CVyBookmarkList list(store());
-        QCOMPARE(paths(list), many);
-        const QStringList messages = takeMessages();
-        QCOMPARE(messages.size(), 2);
-        QVERIFY(messages[0].contains("has 1 lines that are no entries") &&
-                messages[0].endsWith("the file is left as it is"));
-        QVERIFY(messages[1].contains("the list goes on in memory: "));
-    }
-    QCOMPARE(textOf(store()), text);
-    QCOMPARE(names(), QStringList("bookmarks.jsonl"));
-}
-
-// The interface stands still for a second at most, and only once.
-void BookmarkStoreTest::waitsForOthersBriefly()
-{
-    CVyBookmarkList list(store());
-    add(list, "/a");
-    QLockFile other(store() + ".lock");
-    QVERIFY(other.tryLock(0));
-    QElapsedTimer timer;
-    timer.start();
-    add(list, "/b");
-    const qint64 first = timer.restart();
-    for (int number = 1; number <= 50; ++number)
-        add(list, numbered(number));
-    const qint64 later = timer.elapsed();
-    QVERIFY2(first >= CVyBookmarkList::longestWait && first < 3000, QByteArray::number(first));
-    QVERIFY2(later < 1000, QByteArray::number(later));
-    QCOMPARE(storedPaths(), QStringList("/a"));
-    const QStringList messages = takeMessages();
-    QCOMPARE(messages.size(), 1);
-    QVERIFY(messages[0].endsWith("another process holds it"));
-
-    other.unlock();
-    add(list, "/c");
-    QCOMPARE(storedPaths().size(), 53);
-    QCOMPARE(storedPaths(), paths(list));
-}
-
-void BookmarkStoreTest::ignoresAStaleLock_data()
-{
-    QTest::addColumn<QByteArray>("text");
-
-    QTest::newRow("of a process that is gone")
-        << "99999999\nBookmarkStoreTest\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n";
-    QTest::newRow("killed before it was written") << QByteArray();
-    QTest::newRow("killed while it was written") << QByteArray("99");
-}
-
-void BookmarkStoreTest::ignoresAStaleLock()
-{
-    QFETCH(QByteArray, text);
-    newFile("bookmarks.jsonl.lock", text);
-    CVyBookmarkList list(store());
-    QElapsedTimer timer;
-    timer.start();
-    add(list, "/a");
-    QVERIFY(timer.elapsed() < 2 * CVyBookmarkList::longestWait);
-    QCOMPARE(storedPaths(), QStringList("/a"));
-    QCOMPARE(names(), QStringList("bookmarks.jsonl"));
 }
 
 // Between writing and renaming.
