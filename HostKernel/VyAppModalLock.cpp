@@ -74,7 +74,8 @@ void releaseButtons()
 void endInput()
 {
     QGuiApplication::inputMethod()->commit();
-    QDrag::cancel();
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) // else there is none, and a
+        QDrag::cancel();                                 // platform without drags would warn
     while (QWidget* popup = QApplication::activePopupWidget()) {
         if (!popup->close())
             break;
