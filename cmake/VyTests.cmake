@@ -28,7 +28,8 @@ function(vy_add_test name)
         add_test(NAME ${name}
             COMMAND ${vy_tests}/support/with-display.sh
                     ${CMAKE_CURRENT_BINARY_DIR}/${name}.display $<TARGET_FILE:${name}>)
-        set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)
+        # The long ones start first, lest the last of them run alone.
+        set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 COST 10)
     else()
         add_test(NAME ${name} COMMAND ${name})
     endif()
@@ -41,6 +42,6 @@ function(vy_test_environment name)
     file(MAKE_DIRECTORY ${home})
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;DISPLAY=;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;LC_ALL=C.UTF-8;QT_LOGGING_RULES=;LSAN_OPTIONS=suppressions=${vy_tests}/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;DISPLAY=;VY_TEMPLATE_FOLDER=;VY_EXPERT_LEVEL=;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;LC_ALL=C.UTF-8;QT_LOGGING_RULES=;LSAN_OPTIONS=suppressions=${vy_tests}/support/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1"
         SKIP_REGULAR_EXPRESSION "^SKIP[ ]+:.*the folder shared/samples is not there")
 endfunction()
