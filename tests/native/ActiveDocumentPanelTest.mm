@@ -11,21 +11,10 @@ class ActiveDocumentPanelTest : public NativeTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void whateverTheHostDoes_data();
+    void whateverTheHostDoes_data() { addDrawingsChanges(); }
     void whateverTheHostDoes();
     void survivesTheWindowThatIsItsParent();
 };
-
-void ActiveDocumentPanelTest::whateverTheHostDoes_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("accepts");
-    int index = 0;
-    for (const DrawingsChange& row : drawingsChanges) {
-        QTest::addRow("%s, accepted", row.name) << index << true;
-        QTest::addRow("%s, cancelled", row.name) << index++ << false;
-    }
-}
 
 // The host's timer does it.
 void ActiveDocumentPanelTest::whateverTheHostDoes()

@@ -14,7 +14,7 @@ class ActiveDocumentTest : public QObject
 private Q_SLOTS:
     void initTestCase() { CVyFileDialog::SetStyle(CVyFileDialog::StyleQt); }
 
-    void whateverTheHostDoes_data();
+    void whateverTheHostDoes_data() { addDrawingsChanges(); }
     void whateverTheHostDoes();
     void survivesTheWindowThatIsItsParent();
     void worksWithoutADocument();
@@ -23,17 +23,6 @@ private Q_SLOTS:
     void requestInsideARequest();
     void aViewWithoutACursorOfItsOwn();
 };
-
-void ActiveDocumentTest::whateverTheHostDoes_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("accepts");
-    int index = 0;
-    for (const DrawingsChange& row : drawingsChanges) {
-        QTest::addRow("%s, accepted", row.name) << index << true;
-        QTest::addRow("%s, cancelled", row.name) << index++ << false;
-    }
-}
 
 // The host's timer does it.
 void ActiveDocumentTest::whateverTheHostDoes()

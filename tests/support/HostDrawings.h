@@ -5,6 +5,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <QtTest>
 
 #include <functional>
 #include <memory>
@@ -118,3 +119,16 @@ inline const DrawingsChange drawingsChanges[] = {
     {"changes the view's cursor", [](HostDrawings& host) { host.view->setCursor(Qt::BusyCursor); },
      "cross, hourglass", "another, hourglass"},
 };
+
+/// The rows of a test that makes each change, in a dialog that is then accepted, and
+/// in one that is cancelled.
+inline void addDrawingsChanges()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("accepts");
+    int index = 0;
+    for (const DrawingsChange& row : drawingsChanges) {
+        QTest::addRow("%s, accepted", row.name) << index << true;
+        QTest::addRow("%s, cancelled", row.name) << index++ << false;
+    }
+}
