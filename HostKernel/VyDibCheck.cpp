@@ -175,9 +175,9 @@ private:
     qint64 m_y = 0;
 };
 
-} // namespace
-
-qint64 pixelOffset(const QByteArray& dib)
+// Where the pixels of a bitmap of \a size bytes begin that begins with \a dib; 0 for
+// one whose header is not sound or that has no place for them.
+qint64 pixelOffset(const QByteArray& dib, qint64 size)
 {
     if (dib.size() < infoHeaderSize)
         return 0;
@@ -186,10 +186,25 @@ qint64 pixelOffset(const QByteArray& dib)
         return 0;
     const bool masksFollow = header.compression == Masks && header.size == infoHeaderSize;
     const qint64 pixels = header.size + (masksFollow ? 12 : 0) + paletteSize(header);
-    if (isRunLength(header))
-        return Runs(dib, pixels, header).stayInside() ? pixels : 0;
     const qint64 stride = (header.width * header.depth + 31) / 32 * 4;
-    return stride * std::abs(header.height) <= dib.size() - pixels ? pixels : 0;
+    const qint64 rows = isRunLength(header) ? 0 : stride * std::abs(header.height);
+    return rows <= size - pixels ? pixels : 0;
+}
+
+} // namespace
+
+qint64 pixelOffset(const QByteArray& dib)
+{
+    const qint64 pixels = pixelOffset(dib, dib.size());
+    if (pixels == 0)
+        return 0;
+    const Header header = readHeader(dib);
+    return !isRunLength(header) || Runs(dib, pixels, header).stayInside() ? pixels : 0;
+}
+
+bool canBegin(const QByteArray& beginning, qint64 size)
+{
+    return pixelOffset(beginning, size) != 0;
 }
 
 } // namespace VyDibCheck

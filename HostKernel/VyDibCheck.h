@@ -15,4 +15,9 @@ namespace VyDibCheck {
 /// whole, and the height of a top-down one is negative to it.
 qint64 pixelOffset(const QByteArray& dib);
 
+/// Whether a bitmap of \a size bytes that begins with \a beginning, at least its
+/// first 52 bytes where it has as many, may have a pixelOffset(): so that one that
+/// has none need not be read.
+bool canBegin(const QByteArray& beginning, qint64 size);
+
 } // namespace VyDibCheck

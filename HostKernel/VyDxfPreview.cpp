@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "VyDxfPreview.h"
 
+#include "VyDxfThumbnail.h"
 #include "VyPreviewImage.h"
 #include "VyPreviewSource.h"
 
-#include <QByteArrayMatcher>
-
 #include <algorithm>
-#include <vector>
+#include <array>
+#include <cstring>
 
 namespace VyDxfPreview {
 
@@ -15,29 +15,32 @@ namespace {
 
 constexpr qint64 firstLineSize = 32;
 
-// The lines of a text from some place on, without the blanks around them.
+// The lines of a text, without the blanks around them; most refer to its bytes.
 class Lines
 {
 public:
-    Lines(const QByteArray& text, int start)
+    explicit Lines(const QByteArray& text)
         : m_text(text)
-        , m_at(start)
     {}
 
     bool atEnd() const { return m_at >= m_text.size(); }
 
     QByteArray next()
     {
-        const int newline = m_text.indexOf('\n', m_at);
-        const int end = newline < 0 ? m_text.size() : newline;
-        QByteArray line = m_text.mid(m_at, end - m_at).trimmed();
-        m_at = end + 1;
-        return line;
+        if (atEnd())
+            return {};
+        const char* line = m_text.constData() + m_at;
+        const int left = m_text.size() - m_at;
+        const void* newline = std::memchr(line, '\n', static_cast<std::size_t>(left));
+        const int length =
+            newline ? static_cast<int>(static_cast<const char*>(newline) - line) : left;
+        m_at += length + 1;
+        return QByteArray::fromRawData(line, length).trimmed();
     }
 
 private:
     const QByteArray& m_text;
-    int m_at;
+    int m_at = 0;
 };
 
 // Every text DXF file begins with the number that says what the second line is.
@@ -49,63 +52,54 @@ bool beginsWithGroupCode(CVyPreviewSource& file)
     return isNumber;
 }
 
-// Start of the line before the one at \a start; 0 when there is none.
-int previousLine(const QByteArray& text, int start)
+// What each character is worth as a hexadecimal digit; -1 for all others.
+constexpr std::array<signed char, 256> digitValues()
 {
-    return start < 2 ? 0 : text.lastIndexOf('\n', start - 2) + 1;
+    std::array<signed char, 256> values = {};
+    for (auto& value : values)
+        value = -1;
+    for (std::size_t i = 0; i < 10; ++i)
+        values['0' + i] = static_cast<signed char>(i);
+    for (std::size_t i = 0; i < 6; ++i)
+        values['A' + i] = values['a' + i] = static_cast<signed char>(10 + i);
+    return values;
 }
 
-// The word may also be the text of an entity or the name of a layer: it is the
-// section only as the name (2) right behind a section's beginning (0).
-bool isSectionName(const QByteArray& text, int start)
+// Adds the bytes that \a digits spell to \a bytes; false when they are no
+// hexadecimal digits or an odd number of them.
+bool addHex(QByteArray& bytes, const QByteArray& digits)
 {
-    int first = start;
-    for (int i = 0; i < 3; ++i)
-        first = previousLine(text, first);
-    Lines lines(text, first);
-    return lines.next() == "0" && lines.next() == "SECTION" && lines.next() == "2" &&
-           lines.next() == "THUMBNAILIMAGE";
+    static constexpr std::array<signed char, 256> values = digitValues();
+    const int before = bytes.size();
+    bytes.resize(before + digits.size() / 2);
+    char* byte = bytes.data() + before;
+    int wrong = digits.size() % 2 != 0 ? -1 : 0;
+    for (const char* digit = digits.begin(); digits.end() - digit > 1; digit += 2) {
+        const int value =
+            values[static_cast<uchar>(digit[0])] * 16 | values[static_cast<uchar>(digit[1])];
+        wrong |= value;
+        *byte++ = static_cast<char>(value);
+    }
+    return wrong >= 0;
 }
 
-// Where the name of the last preview section stands; -1 without a section. The
-// places are looked for forwards: a matcher skips most of the text, which a
-// search from the end would go through byte by byte.
-int sectionName(const QByteArray& text)
-{
-    const QByteArrayMatcher line("\nTHUMBNAILIMAGE");
-    std::vector<int> starts;
-    for (int at = line.indexIn(text); at >= 0; at = line.indexIn(text, at + 1))
-        starts.push_back(at + 1);
-    const auto last = std::find_if(starts.rbegin(), starts.rend(),
-                                   [&text](int start) { return isSectionName(text, start); });
-    return last == starts.rend() ? -1 : *last;
-}
-
-bool isHexadecimal(const QByteArray& text)
-{
-    return text.size() % 2 == 0 && std::all_of(text.begin(), text.end(), [](char digit) {
-               return (digit >= '0' && digit <= '9') || (digit >= 'A' && digit <= 'F') ||
-                      (digit >= 'a' && digit <= 'f');
-           });
-}
-
-// The bytes that the section's groups spell, from code 90 (how many) and codes
+// The bytes that a section's \a groups spell, from code 90 (how many) and codes
 // 310 (which); nothing when they are not as many or the section does not end.
-QByteArray sectionBytes(Lines lines)
+QByteArray sectionBytes(const QByteArray& groups)
 {
+    Lines lines(groups);
     qint64 declared = 0;
     QByteArray bytes;
+    bytes.reserve(groups.size() / 2);
     while (!lines.atEnd()) {
         const int code = lines.next().toInt(); // 0, and so the end, when it is no number
         const QByteArray value = lines.next();
-        if (code == 310 && !isHexadecimal(value))
+        if (code == 310 && !addHex(bytes, value))
             return {};
         if (code == 0)
             return value == "ENDSEC" && bytes.size() == declared ? bytes : QByteArray();
         if (code == 90)
             declared = value.toLongLong();
-        if (code == 310)
-            bytes += QByteArray::fromHex(value);
     }
     return {};
 }
@@ -116,14 +110,7 @@ QImage read(CVyPreviewSource& file)
 {
     if (!beginsWithGroupCode(file))
         return {};
-    const qint64 length = std::min(windowSize, file.size());
-    const QByteArray window = file.read(file.size() - length, length);
-    const int name = sectionName(window);
-    if (name < 0)
-        return {};
-    Lines lines(window, name);
-    lines.next();
-    return VyPreviewImage::fromDib(sectionBytes(lines));
+    return VyPreviewImage::fromDib(sectionBytes(VyDxfThumbnail::groups(file)));
 }
 
 } // namespace VyDxfPreview

@@ -3,30 +3,30 @@
 
 #include "VyDwgPreview.h"
 #include "VyDxfPreview.h"
+#include "VyPreviewFile.h"
 #include "VyPreviewImage.h"
 #include "VyPreviewSource.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
 
 // A picture under a drawing's name is no drawing, and cannot be opened as one:
 // showing it would promise the contrary.
-bool isNamedLikeDrawing(const QFileInfo& file)
+bool isNamedLikeDrawing(const QString& path)
 {
     static const QStringList suffixes = {QStringLiteral("dwg"), QStringLiteral("dwt"),
                                          QStringLiteral("dws"), QStringLiteral("dxf")};
-    return suffixes.contains(file.suffix(), Qt::CaseInsensitive);
+    return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
 }
 
 // Each reader knows its files by their content and costs next to nothing on others.
-QImage readPreview(CVyPreviewSource& source, const QFileInfo& info)
+QImage readPreview(CVyPreviewSource& source, const QString& path)
 {
     QImage picture = VyDwgPreview::read(source);
     if (picture.isNull())
         picture = VyDxfPreview::read(source);
-    if (picture.isNull() && !isNamedLikeDrawing(info))
+    if (picture.isNull() && !isNamedLikeDrawing(path))
         picture = VyPreviewImage::fromPictureFile(source);
     return picture;
 }
@@ -39,14 +39,11 @@ public:
         const QString name = path;
         if (name.contains(QChar(QChar::Null)))
             return false; // Qt would warn about it on the host's log
-        // Opening anything but a regular file can block until somebody writes.
-        const QFileInfo info(name);
-        QFile file(name);
-        if (!info.isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
-            file.isSequential())
+        CVyPreviewFile file(name);
+        if (!file.isOpen())
             return false;
         CVyPreviewSource source(file);
-        const QImage picture = readPreview(source, info);
+        const QImage picture = readPreview(source, name);
         if (picture.isNull())
             return false;
         m_picture = picture;

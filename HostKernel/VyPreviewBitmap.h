@@ -16,8 +16,22 @@
 /// or script, and cheap to draw. It is drawn with at most 256 pixels a side.
 ///
 /// Reading is bounded in time and memory whatever the file holds: pictures have
-/// at most 8192 pixels a side, 16 million in all and 32 MiB as stored, and of a
-/// drawing nothing but the preview is read.
+/// at most 8192 pixels a side, 16 million in all and 32 MiB as stored (8 MiB of text
+/// in a DXF file, 1 MiB of an SVG file).
+///
+/// Of a file no more is read than its picture as it is stored and 8192 bytes,
+/// however large it is; so of a file without a picture at most 8192 bytes are read.
+/// The stored picture is the image in a DWG file's preview section, the text of a DXF
+/// file's thumbnail section, and a PNG, JPEG, BMP or SVG file itself. What looks like a
+/// picture as far as its beginning tells counts as one: it is read before it can be
+/// refused, up to four of them in a DWG file. So does what looks like a thumbnail
+/// section from a DXF file's end, other data in lines of different lengths.
+///
+/// The file is looked at once, opened, and read in few pieces with one call each, so
+/// that a slow network share answers soon: the first bytes and mostly the picture at
+/// once. A DXF file takes one more, and up to forty of a few bytes that find the
+/// beginning of a long section. They take its lines to be as long as each other, as
+/// all known writers make them; else it is read in pieces of 1024 bytes.
 ///
 /// One object reads one file after another and keeps the last picture that it
 /// found. Different objects may be used in different threads.

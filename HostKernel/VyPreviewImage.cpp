@@ -12,6 +12,7 @@
 #include <QImageReader>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdlib>
 #include <mutex>
 
@@ -74,11 +75,16 @@ private:
 // of its palette; 0 stands for a picture without palette.
 QImage withinPalette(const QImage& picture, int colours)
 {
-    for (int y = 0; colours > 0 && y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelIndex(x, y) >= colours)
-                return {};
-        }
+    constexpr int byte = 8; // the depth of all pictures with a palette but those of one bit
+    if (colours == 0 || picture.depth() > byte || colours >= 1 << picture.depth())
+        return picture;
+    const QImage indices =
+        picture.depth() == byte ? picture : picture.convertToFormat(QImage::Format_Indexed8);
+    for (int y = 0; y < indices.height(); ++y) {
+        const uchar* row = indices.constScanLine(y);
+        if (std::any_of(row, row + indices.width(),
+                        [colours](uchar index) { return index >= colours; }))
+            return {};
     }
     return picture;
 }
@@ -143,15 +149,42 @@ QImage fromSvg(const QByteArray& svg)
     return decoded(svg, "svg", drawing.size);
 }
 
+// Whether a file of \a size bytes that begins with \a beginning is worth reading: the
+// signatures of some kinds are letters that texts may begin with, too.
+bool isPicture(const QByteArray& /*beginning*/, qint64 /*size*/)
+{
+    return true;
+}
+
+bool isBmp(const QByteArray& beginning, qint64 size)
+{
+    return VyDibCheck::canBegin(beginning.mid(bmpHeaderSize), size - bmpHeaderSize);
+}
+
 struct PictureKind
 {
     const char* signature;
+    bool (*isKind)(const QByteArray& beginning, qint64 size);
     QImage (*read)(const QByteArray& file);
 };
 
-constexpr PictureKind pictureKinds[] = {
-    {"\x89PNG", fromPng}, {"\xFF\xD8\xFF", fromJpeg}, {"BM", fromBmp},           {"<svg", fromSvg},
-    {"<?xm", fromSvg},    {"<!--", fromSvg},          {"\xEF\xBB\xBF<", fromSvg}};
+constexpr PictureKind pictureKinds[] = {{"\x89PNG\r\n\x1a\n", isPicture, fromPng},
+                                        {"\xFF\xD8\xFF", isPicture, fromJpeg},
+                                        {"BM", isBmp, fromBmp},
+                                        {"<svg", VySvgCheck::canBegin, fromSvg},
+                                        {"<?xm", VySvgCheck::canBegin, fromSvg},
+                                        {"<!--", VySvgCheck::canBegin, fromSvg},
+                                        {"\xEF\xBB\xBF<", VySvgCheck::canBegin, fromSvg}};
+
+constexpr qint64 beginningSize = 4096;
+
+// The whole of \a file, of which \a beginning is there already.
+QByteArray whole(CVyPreviewSource& file, const QByteArray& beginning)
+{
+    const qint64 left = file.size() - beginning.size();
+    const QByteArray rest = file.read(beginning.size(), left);
+    return rest.size() == left ? beginning + rest : QByteArray();
+}
 
 } // namespace
 
@@ -176,10 +209,11 @@ QImage fromPictureFile(CVyPreviewSource& file)
 {
     if (!VyPreviewLimits::allowsImage(file.size()))
         return {};
-    const QByteArray start = file.read(0, 4);
+    const QByteArray beginning = file.read(0, std::min(beginningSize, file.size()));
     for (const PictureKind& kind : pictureKinds) {
-        if (start.startsWith(kind.signature))
-            return kind.read(file.read(0, file.size()));
+        if (beginning.startsWith(kind.signature))
+            return kind.isKind(beginning, file.size()) ? kind.read(whole(file, beginning))
+                                                       : QImage();
     }
     return {};
 }

@@ -19,7 +19,8 @@ QImage fromPng(const QByteArray& png);
 /// The picture that \a file is: PNG, JPEG or BMP, told by its content; and SVG,
 /// where Qt has its plug-in "svg" at run time and the file is a plain drawing, see
 /// VySvgCheck.h, drawn with at most 256 pixels a side on nothing. Texts in it take
-/// a QGuiApplication.
+/// a QGuiApplication. Reads the first 4096 bytes, and the rest only when these can be
+/// a picture's.
 QImage fromPictureFile(CVyPreviewSource& file);
 
 } // namespace VyPreviewImage

@@ -13,6 +13,9 @@ constexpr qint64 smallestImage = 40;                ///< bytes as stored
 constexpr qint64 largestImage = 32LL * 1024 * 1024; ///< bytes as stored
 constexpr qint64 largestSide = 8192;                ///< pixels
 constexpr qint64 mostPixels = 4096LL * 4096;
+/// Bytes from the beginning of a DXF file's thumbnail section, which spells a picture
+/// in two digits a byte, to the file's end.
+constexpr qint64 longestSection = 8LL * 1024 * 1024;
 constexpr int mostTries = 4;  ///< pictures tried in one file
 constexpr int mostScans = 32; ///< passes over a JPEG's pixels
 

@@ -18,7 +18,6 @@ namespace VySvgCheck {
 
 namespace {
 
-constexpr int mostBytes = 1024 * 1024;
 constexpr std::size_t mostLevels = 32;
 constexpr int largestSide = 256; // pixels
 constexpr double largestFont = 1000;
@@ -292,6 +291,18 @@ public:
         return m_drawing;
     }
 
+    // Whether there is nothing against the text up to its end, which is that of its
+    // beginning, and a drawing has begun.
+    bool canGoOn()
+    {
+        while (m_xml.readNext() != QXmlStreamReader::Invalid) {
+            if (!take(m_xml.tokenType()))
+                return false;
+        }
+        return m_xml.error() == QXmlStreamReader::PrematureEndOfDocumentError &&
+               m_drawing.size.isValid();
+    }
+
 private:
     bool take(QXmlStreamReader::TokenType token)
     {
@@ -387,6 +398,13 @@ private:
 Drawing check(const QByteArray& svg)
 {
     return svg.size() <= mostBytes && !svg.contains('\0') ? Reader(svg).read() : Drawing();
+}
+
+bool canBegin(const QByteArray& beginning, qint64 size)
+{
+    if (size > mostBytes || beginning.contains('\0'))
+        return false;
+    return beginning.size() == size || Reader(beginning).canGoOn();
 }
 
 } // namespace VySvgCheck

@@ -7,6 +7,8 @@
 /// SVG files (Scalable Vector Graphics 1.1, W3C) as plain drawings.
 namespace VySvgCheck {
 
+constexpr qint64 mostBytes = 1024LL * 1024; ///< of a file
+
 /// What is known of a file that may be drawn.
 struct Drawing
 {
@@ -28,10 +30,15 @@ struct Drawing
 /// CSS's units of 96 to the inch, or of the viewBox where one of them is missing or
 /// a share; it is held against VyPreviewLimits like that of any picture.
 ///
-/// A file has at most 1 MiB, 32 levels of elements and numbers up to ten million.
+/// A file has at most mostBytes, 32 levels of elements and numbers up to ten million.
 /// What its elements, outlines, areas, dashes and letters cost at 256 pixels, where
 /// Qt 5.15 draws long outlines some twenty times faster than at 512, is added up with
 /// measured prices and must come to less than a second.
 Drawing check(const QByteArray& svg);
+
+/// Whether check() may answer with a size for a file of \a size bytes that begins
+/// with \a beginning, so that one without need not be read. A drawing whose first
+/// element has not begun there, behind a long comment, is refused, too.
+bool canBegin(const QByteArray& beginning, qint64 size);
 
 } // namespace VySvgCheck

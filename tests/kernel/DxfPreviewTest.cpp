@@ -104,6 +104,12 @@ void DxfPreviewTest::noPicture_data()
     QTest::newRow("blank between digits") << dxfOf(section().replace("\n310\n28", "\n310\n2 "));
     QTest::newRow("NUL between digits")
         << dxfOf(section().replace("\n310\n28", QByteArray("\n310\n2\0", 7)));
+    QByteArray pixels = section();
+    pixels[pixels.lastIndexOf("\n  0\nENDSEC") - 4] = ' ';
+    QTest::newRow("blank between the digits of a pixel") << dxfOf(pixels);
+    pixels = thumbnailSection(bitmap() + 'x', QByteArray::number(bitmap().size()));
+    QTest::newRow("half a byte more than counted")
+        << dxfOf(pixels.remove(pixels.lastIndexOf("\n  0\nENDSEC") - 1, 1));
     QTest::newRow("code that is no number") << dxfOf(section().replace("310\n", "3x0\n"));
     QTest::newRow("code missing") << dxfOf(section().replace("\n310\n28", "\n28"));
 

@@ -206,8 +206,12 @@ QByteArray thumbnailSection(const QByteArray& bytes, int perLine)
 QByteArray thumbnailSection(const QByteArray& bytes, const QByteArray& count, int perLine)
 {
     QByteArray section = "  0\nSECTION\n  2\nTHUMBNAILIMAGE\n 90\n" + count + "\n";
-    for (int at = 0; at < bytes.size(); at += perLine)
-        section += "310\n" + bytes.mid(at, perLine).toHex().toUpper() + "\n";
+    // Piece by piece: adding what is still to be put together makes room each time.
+    for (int at = 0; at < bytes.size(); at += perLine) {
+        section += "310\n";
+        section += bytes.mid(at, perLine).toHex().toUpper();
+        section += "\n";
+    }
     return section + "  0\nENDSEC\n";
 }
 

@@ -28,11 +28,13 @@ public:
 
     qint64 size() const override { return m_size; }
     qint64 bytesRead() const { return m_bytesRead; }
+    int reads() const { return m_reads; }
     qint64 largestRequest() const { return m_largestRequest; }
 
 protected:
     qint64 readData(char* data, qint64 length) override
     {
+        ++m_reads;
         m_largestRequest = qMax(m_largestRequest, length);
         const qint64 start = pos();
         const qint64 count = qMax(qint64(0), qMin(length, m_readable - start));
@@ -54,6 +56,7 @@ private:
     qint64 m_size;
     qint64 m_readable;
     qint64 m_bytesRead = 0;
+    int m_reads = 0;
     qint64 m_largestRequest = 0;
     QMap<qint64, QByteArray> m_pieces;
 };
