@@ -2,6 +2,7 @@
 #include "VyString.h"
 
 #include <algorithm>
+#include <cstring>
 
 static_assert(sizeof(wchar_t) == 4, "one wide character holds one character of Unicode");
 
@@ -12,9 +13,12 @@ wchar_t wide(uint codePoint)
     return static_cast<wchar_t>(codePoint);
 }
 
+// The texts that callers search for fit into the string itself, without memory
+// of their own.
 std::wstring fixedText(const char* text)
 {
-    return QString::fromLatin1(text).toStdWString();
+    const auto* const first = reinterpret_cast<const unsigned char*>(text);
+    return std::wstring(first, first + std::strlen(text));
 }
 
 // QString::toStdWString() is not used for callers' text: it replaces unpaired
@@ -66,12 +70,13 @@ CVyString::operator QString() const
 std::vector<CVyString> CVyString::SplitA(char separator) const
 {
     const wchar_t wideSeparator = wide(static_cast<unsigned char>(separator));
-    std::vector<CVyString> parts(1);
-    for (const wchar_t character : m_text) {
-        if (character == wideSeparator)
-            parts.emplace_back();
-        else
-            parts.back().m_text += character;
+    const auto separators = std::count(m_text.begin(), m_text.end(), wideSeparator);
+    std::vector<CVyString> parts(static_cast<std::size_t>(separators) + 1);
+    std::size_t start = 0;
+    for (CVyString& part : parts) {
+        const std::size_t end = std::min(m_text.find(wideSeparator, start), m_text.size());
+        part.m_text.assign(m_text, start, end - start);
+        start = end + 1;
     }
     return parts;
 }
@@ -113,15 +118,19 @@ CVyString& CVyString::trimRight()
 CVyString& CVyString::replaceA(const char* before, const char* after)
 {
     const std::wstring wanted = fixedText(before);
+    std::size_t at = wanted.empty() ? std::wstring::npos : m_text.find(wanted);
+    if (at == std::wstring::npos)
+        return *this;
     const std::wstring replacement = fixedText(after);
     std::wstring result;
+    result.reserve(m_text.size());
     std::size_t done = 0;
-    for (std::size_t at = m_text.find(wanted); !wanted.empty() && at != std::wstring::npos;
-         at = m_text.find(wanted, done)) {
+    for (; at != std::wstring::npos; at = m_text.find(wanted, done)) {
         result.append(m_text, done, at - done).append(replacement);
         done = at + wanted.size();
     }
-    m_text = result.append(m_text, done);
+    result.append(m_text, done);
+    m_text = std::move(result);
     return *this;
 }
 

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The host's string: a value of wide characters, one character of Unicode an
@@ -67,5 +68,10 @@ public:
     friend bool operator!=(const CVyString& a, const CVyString& b) { return !(a == b); }
 
 private:
+    friend struct CVyUtils; // makes its answers from text of any characters, zeros included
+    explicit CVyString(std::wstring&& text)
+        : m_text(std::move(text))
+    {}
+
     std::wstring m_text;
 };

@@ -1,62 +1,94 @@
 // SPDX-License-Identifier: MIT
 #include "VyUtils.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace {
 
-// The outermost reach of a description's parentheses: its last "(" and last ")".
+using View = std::wstring_view;
+
+// The outermost reach of a text's parentheses: its last "(" and last ")".
 struct Parentheses
 {
-    explicit Parentheses(const CVyString& text)
-        : open(text.reverseFindA("("))
-        , close(text.reverseFindA(")"))
+    explicit Parentheses(View text)
+        : open(text.rfind(L'('))
+        , close(text.rfind(L')'))
     {}
 
-    bool none() const { return open < 0 && close < 0; }
-    bool enclose() const { return open >= 0 && open < close; }
+    bool none() const { return open == View::npos && close == View::npos; }
+    bool enclose() const { return close != View::npos && open < close; }
 
-    int open;
-    int close;
+    std::size_t open;
+    std::size_t close;
 };
 
-// "Drawing (dwg)" names no pattern, so its parentheses go; "Drawing (*.dwg)"
-// does, and keeps them.
-CVyString withPatterns(const CVyString& description, const CVyString& patterns)
+View trimmedRight(View text)
 {
-    CVyString text = description;
-    const Parentheses tail(text);
-    if (tail.enclose() && text.findA("*") < 0)
-        text = text.left(tail.open);
-    if (Parentheses(text).none())
-        text = text.trimRight() + L" (" + patterns + L")";
+    while (!text.empty() && QChar::isSpace(static_cast<uint>(text.back())))
+        text.remove_suffix(1);
     return text;
 }
 
-CVyString nameFilterEntry(const CVyString& description, const CVyString& patterns)
+// The field of \a text at \a start, empty behind the last; \a start moves on to
+// the next.
+View takeField(View text, std::size_t& start)
 {
-    const CVyString text = withPatterns(description, patterns);
-    const Parentheses ends(text);
+    if (start > text.size())
+        return {};
+    const std::size_t end = std::min(text.find(L'&', start), text.size());
+    const View field = text.substr(start, end - start);
+    start = end + 1;
+    return field;
+}
+
+// "Drawing (dwg)" names no pattern, so its parentheses go; "Drawing (*.dwg)"
+// does, and keeps them.
+void appendWithPatterns(std::wstring& text, View description, View patterns)
+{
+    const Parentheses tail(description);
+    if (tail.enclose() && description.find(L'*') == View::npos)
+        description = description.substr(0, tail.open);
+    if (Parentheses(description).none())
+        text.append(trimmedRight(description)).append(L" (").append(patterns).append(L")");
+    else
+        text.append(description);
+}
+
+// The entry is written behind what there is and then put right where it stands,
+// so that a list of any length needs no memory but its own.
+void appendEntry(std::wstring& converted, View description, View patterns)
+{
+    const std::size_t start = converted.size();
+    appendWithPatterns(converted, description, patterns);
+    const View entry = View(converted).substr(start);
+    const Parentheses ends(entry);
     if (!ends.enclose())
-        return text;
-    CVyString wildcards = text.mid(ends.open + 1, ends.close - ends.open - 1);
-    wildcards.replaceA(";", " ").replaceA(",", " ");
-    return text.left(ends.open).trimRight() + L" (" + wildcards + L")";
+        return;
+    const std::size_t open = start + ends.open;
+    const std::size_t name = start + trimmedRight(entry.substr(0, ends.open)).size();
+    converted.resize(start + ends.close + 1);
+    const auto separates = [](wchar_t character) { return character == L';' || character == L','; };
+    std::replace_if(converted.begin() + static_cast<std::ptrdiff_t>(open), converted.end(),
+                    separates, L' ');
+    converted.replace(name, open - name, L" ");
 }
 
 } // namespace
 
 CVyString CVyUtils::ConvertToQtFilter(const CVyString& filter)
 {
-    const std::vector<CVyString> fields = filter.SplitA('&');
-    CVyString converted;
-    for (std::size_t i = 0; i < fields.size(); i += 2) {
-        const CVyString& description = fields[i];
-        const CVyString patterns = i + 1 < fields.size() ? fields[i + 1] : CVyString();
-        if (description.isEmpty() && patterns.isEmpty())
+    const View text(filter.c_str(), static_cast<std::size_t>(filter.getLength()));
+    std::wstring converted;
+    converted.reserve(2 * text.size());
+    for (std::size_t start = 0; start <= text.size();) {
+        const View description = takeField(text, start);
+        const View patterns = takeField(text, start);
+        if (description.empty() && patterns.empty())
             continue;
-        converted += nameFilterEntry(description, patterns);
-        converted += L"&";
-        converted += patterns;
-        converted += L"&";
+        appendEntry(converted, description, patterns);
+        converted.append(L"&").append(patterns).append(L"&");
     }
-    return converted += L"&";
+    converted += L'&';
+    return CVyString(std::move(converted));
 }

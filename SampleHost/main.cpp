@@ -91,7 +91,8 @@ ExitStatus askAndPrint(const Options& options)
     char* arguments[] = {name, nullptr};
     int count = 1;
     starting = true;
-    const QApplication application(count, arguments);
+    // Never deleted: the process ends with the answer, see main().
+    [[maybe_unused]] const auto* application = new QApplication(count, arguments);
     starting = false;
     startMessages.clear();
     for (const QString& warning : warnings(options))
@@ -130,5 +131,8 @@ int main(int argc, char* argv[])
     std::atexit(onExit);
     const ExitStatus status = run(argc, argv);
     finished = true;
-    return status;
+    // Not by returning: who waits for the answer would wait until Qt has taken
+    // apart what it held of a large folder.
+    std::fflush(nullptr);
+    std::_Exit(status);
 }

@@ -22,6 +22,8 @@ QString plainToolTip(const QString& name)
 CVyDirPushButton::CVyDirPushButton(const QString& name, QWidget* parent)
     : QPushButton(parent)
     , m_fullName(name)
+    , m_line(VyPathBar::singleLine(name))
+    , m_metrics(fontMetrics())
 {
     showFullName();
     setObjectName(QStringLiteral("folderButton"));
@@ -38,15 +40,16 @@ QString CVyDirPushButton::shownName() const
 
 void CVyDirPushButton::showFullName()
 {
-    showName(VyPathBar::singleLine(m_fullName));
+    showName(m_line);
 }
 
 void CVyDirPushButton::calculateText(int width)
 {
-    const QString name = VyPathBar::singleLine(m_fullName);
-    const QString fitting = VyPathBar::fittingText(fontMetrics(), name, width);
+    const QString& fitting = fittingText(width);
     showName(fitting);
-    setToolTip(fitting == name ? QString() : plainToolTip(m_fullName));
+    const QString tip = fitting == m_line ? QString() : plainToolTip(m_fullName);
+    if (tip != toolTip()) // a change is announced, even to the same
+        setToolTip(tip);
 }
 
 void CVyDirPushButton::updateSize()
@@ -57,6 +60,12 @@ void CVyDirPushButton::updateSize()
 void CVyDirPushButton::updateMaxWidth()
 {
     setMaximumWidth(fullWidth());
+}
+
+void CVyDirPushButton::fixShownWidth()
+{
+    const QString shown = shownName();
+    setMaximumWidth(shown == m_line ? fullWidth() : VyPathBar::paddedWidth(fontMetrics(), shown));
 }
 
 QSize CVyDirPushButton::sizeHint() const
@@ -77,7 +86,23 @@ void CVyDirPushButton::resizeEvent(QResizeEvent* event)
 
 int CVyDirPushButton::fullWidth() const
 {
-    return VyPathBar::paddedWidth(fontMetrics(), VyPathBar::singleLine(m_fullName));
+    if (m_fullWidth < 0 || m_metrics != fontMetrics()) {
+        m_metrics = fontMetrics();
+        m_fullWidth = VyPathBar::paddedWidth(m_metrics, m_line);
+        m_elidedWidth = -1;
+    }
+    return m_fullWidth;
+}
+
+const QString& CVyDirPushButton::fittingText(int width) const
+{
+    if (fullWidth() <= width)
+        return m_line;
+    if (m_elidedWidth != width) {
+        m_elidedWidth = width;
+        m_elided = VyPathBar::elidedText(m_metrics, m_line, width);
+    }
+    return m_elided;
 }
 
 // An "&" in a folder's name is no mnemonic.

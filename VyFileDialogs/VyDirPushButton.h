@@ -27,6 +27,8 @@ public:
     void updateSize();
     /// Keeps the button from growing wider than its full name needs.
     void updateMaxWidth();
+    /// Keeps the button from growing wider than what it shows needs.
+    void fixShownWidth();
 
     /// As wide as the full name needs, whatever is shown: a layout that has room
     /// for the name then gives it.
@@ -45,7 +47,16 @@ protected:
 
 private:
     int fullWidth() const;
+    const QString& fittingText(int width) const;
     void showName(const QString& name);
 
     const QString m_fullName;
+    const QString m_line; ///< the full name in one line
+
+    // To measure a text takes longer than all else that a button does in a
+    // layout, so what is known is kept for as long as the font stays.
+    mutable QFontMetrics m_metrics;
+    mutable int m_fullWidth = -1; ///< not measured yet
+    mutable int m_elidedWidth = -1;
+    mutable QString m_elided; ///< what fits into m_elidedWidth
 };

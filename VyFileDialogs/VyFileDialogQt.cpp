@@ -165,7 +165,7 @@ void CVyFileDialogQt::configureWidget()
     if (m_expertLevel >= 2)
         m_widget->setOption(QFileDialog::DontConfirmOverwrite, true);
     m_widget->setDefaultSuffix(m_defaultExtension);
-    m_widget->selectNameFilter(m_selectedFilter);
+    m_widget->selectType(m_selectedFilter);
     m_widget->setFileMode(static_cast<QFileDialog::FileMode>(m_fileMode));
     m_widget->setAcceptMode(static_cast<QFileDialog::AcceptMode>(m_acceptMode));
     HandleDialogInitialization();
@@ -210,7 +210,7 @@ void CVyFileDialogQt::onTypeChange(const QString& filter)
     // When saving, selecting a type rewrites the name's ending by a rule of
     // QFileDialog's own; ours starts from what was typed.
     const QString typedName = m_fileNameEdit ? m_fileNameEdit->text() : QString();
-    m_widget->selectNameFilter(filter);
+    m_widget->selectType(filter);
 
     const QStringList entries = VyFileTypeList::entries(m_qtFilter);
     const QStringList lists = VyFileTypeList::splitLists(m_extensionLists);

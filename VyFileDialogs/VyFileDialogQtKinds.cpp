@@ -5,7 +5,6 @@
 #include "VyFileDialogWidget.h"
 #include "VySystemServices.h"
 
-#include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QMenu>
@@ -198,10 +197,6 @@ void CVyFileDialogQtSave::onTypeChange(const QString& filter)
 
 void CVyFileDialogQtSave::HandleDialogInitialization()
 {
-    // Our onTypeChange() selects the type: QFileDialog's own slot would rewrite
-    // the name before we have seen it.
-    if (auto* types = m_widget->findChild<QComboBox*>(QStringLiteral("fileTypeCombo")))
-        QObject::disconnect(types, SIGNAL(activated(int)), m_widget, SLOT(_q_useNameFilter(int)));
     if (!m_keepTitle)
         m_widget->setWindowTitle(QCoreApplication::translate("CVyFileDialogQt", "Save As"));
 }

@@ -2,17 +2,20 @@
 #include "VyFileDialogWidget.h"
 
 #include "VyFileDialogQt.h"
-#include "VyPreviewBitmap.h"
+#include "VyFileListModel.h"
+#include "VyFileTypeList.h"
+#include "VyPreviewReader.h"
 
-#include <QFileInfo>
+#include <QApplication>
+#include <QComboBox>
 #include <QFileSystemModel>
 #include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListView>
 #include <QScreen>
 #include <QSplitter>
 #include <QToolButton>
 #include <QUrl>
-
-#include <memory>
 
 namespace {
 
@@ -37,6 +40,7 @@ CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner
     setOptions(QFileDialog::DontUseNativeDialog);
     m_model = findChild<QFileSystemModel*>(QStringLiteral("qt_filesystem_model"));
 
+    addFileList();
     QWidget* contents = moveLayoutInside();
     if (previewAllowed)
         addPreviewPane();
@@ -55,6 +59,12 @@ CVyFileDialogWidget::~CVyFileDialogWidget()
         setSidebarUrls(*m_keptPlaces);
     if (m_loop)
         m_loop->quit();
+    // Freeing what a large folder has filled it with takes a while; the host has
+    // its answer first.
+    if (m_model) {
+        m_model->setParent(qApp);
+        m_model->deleteLater();
+    }
 }
 
 // QDialog keeps a pointer to its event loop, which is left dangling when an
@@ -96,6 +106,47 @@ void CVyFileDialogWidget::addPlaces(const QList<QUrl>& places)
     setSidebarUrls(*m_keptPlaces + places);
 }
 
+// Puts our list between the dialog's model and its views, and takes over from
+// QFileDialog what it would do with the model alone.
+void CVyFileDialogWidget::addFileList()
+{
+    auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (!m_model || !types || !name)
+        return;
+    m_list = new CVyFileListModel(this);
+    setProxyModel(m_list);
+
+    disconnect(types, SIGNAL(activated(int)), this, SLOT(_q_useNameFilter(int)));
+    disconnect(name, SIGNAL(textChanged(QString)), this, SLOT(_q_autoCompleteFileName(QString)));
+    connect(name, &QLineEdit::textChanged, this,
+            [this](const QString& text) { selectTyped(text); });
+}
+
+void CVyFileDialogWidget::selectType(const QString& filter)
+{
+    auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    const int index = types ? types->findText(filter) : -1;
+    // When saving, QFileDialog also gives the typed name the type's ending.
+    if (!m_list || acceptMode() == QFileDialog::AcceptSave)
+        selectNameFilter(filter);
+    else if (index >= 0) {
+        types->setCurrentIndex(index);
+        m_list->setNameFilters(VyFileTypeList::patterns(filter));
+    }
+}
+
+// Selects in the list what the user types. QFileDialog's own way takes a file that
+// is both typed and selected already for one that is no longer typed, if there is
+// a proxy model; so nothing is selected beforehand.
+void CVyFileDialogWidget::selectTyped(const QString& names)
+{
+    const auto* list = findChild<QListView*>(QStringLiteral("listView"));
+    if (list && focusWidget() == sender())
+        list->selectionModel()->clearSelection();
+    QMetaObject::invokeMethod(this, "_q_autoCompleteFileName", Q_ARG(QString, names));
+}
+
 // Takes the layout of Qt's dialog away to a widget of its own, so that there is
 // room for a row above it.
 QWidget* CVyFileDialogWidget::moveLayoutInside()
@@ -127,6 +178,8 @@ void CVyFileDialogWidget::addPreviewPane()
     splitter->addWidget(m_previewFrame);
     m_previewFrame->hide();
 
+    m_previews = new CVyPreviewReader(this);
+    connect(m_previews, &CVyPreviewReader::found, m_preview, &CVyFileDialogPreview::setImage);
     connect(this, SIGNAL(currentChanged(QString)), this, SLOT(onCurrentFile(QString)));
 }
 
@@ -184,17 +237,14 @@ void CVyFileDialogWidget::onCurrentFile(const QString& path)
 {
     if (!m_previewFrame)
         return;
-    if (!QFileInfo(path).isFile()) {
+    // The model knows without asking a share again.
+    if (!m_model || !m_model->fileInfo(m_model->index(path)).isFile()) {
+        m_previews->cancel();
         m_previewFrame->hide();
         return;
     }
-    const std::unique_ptr<CVyPreviewBitmap> bitmap(CVyPreviewBitmap::Create());
-    if (bitmap->ReadPreview(CVyString(path))) {
-        QImage image;
-        bitmap->CopyTo(image);
-        m_preview->setImage(image);
-    }
     // A file without a preview leaves the last picture in place.
+    m_previews->read(path);
     m_preview->update();
     m_previewFrame->show();
 }
@@ -214,6 +264,8 @@ void CVyFileDialogWidget::onChangedDirectory()
 
 void CVyFileDialogWidget::filterChanged(const QString& filter)
 {
+    if (m_list)
+        m_list->setNameFilters(VyFileTypeList::patterns(filter));
     m_owner->onTypeChange(filter);
 }
 

@@ -12,6 +12,8 @@
 #include <optional>
 
 class CVyFileDialogQt;
+class CVyFileListModel;
+class CVyPreviewReader;
 class QFileSystemModel;
 class QHBoxLayout;
 
@@ -47,6 +49,10 @@ public:
     /// taken away again before QFileDialog saves the sidebar.
     void addPlaces(const QList<QUrl>& places);
 
+    /// Selects the type whose entry is \a filter, as the user can, and lists its
+    /// files; does nothing if there is no such type.
+    void selectType(const QString& filter);
+
     /// Lays out the row for the absolute \a path, keeping what it can.
     void layoutDirSelector(const QString& path);
 
@@ -67,6 +73,7 @@ private Q_SLOTS:
     void onActionNewNoTemplateMetric();
 
 private:
+    void addFileList();
     QWidget* moveLayoutInside();
     void addPreviewPane();
     void addPathBar(QWidget* contents);
@@ -74,10 +81,12 @@ private:
     void makeRoom();
     void leaveParent();
 
+    void selectTyped(const QString& names);
     void showFolder(const QString& path);
     QStringList folderNames() const;
     void removeFolderButtons(int from);
     void addFolderButton(const QString& name);
+    void showFolderButtons(int from);
     void markCurrent(const CVyDirPushButton* current);
     void takeFocusFromPathBar();
     void orderTabs();
@@ -87,8 +96,10 @@ private:
     CVyFileDialogQt* const m_owner;
     CVyFileDialogPreview* m_preview = nullptr;
     QWidget* m_previewFrame = nullptr;
+    CVyPreviewReader* m_previews = nullptr;
 
     QFileSystemModel* m_model = nullptr;     ///< the dialog's own
+    CVyFileListModel* m_list = nullptr;      ///< what it lists of m_model
     QString m_shownFolder;                   ///< what the row was last laid out for
     std::optional<QList<QUrl>> m_keptPlaces; ///< the sidebar before addPlaces()
     QPointer<QEventLoop> m_loop;             ///< while exec() runs

@@ -35,7 +35,8 @@ void CVyFileDialogWidget::layoutDirSelector(const QString& path)
 {
     const QStringList parts = VyPathBar::parts(path);
     removeFolderButtons(VyPathBar::staying(folderNames(), parts));
-    for (int i = m_folderButtons.size(); i < parts.size(); ++i)
+    const int kept = m_folderButtons.size();
+    for (int i = kept; i < parts.size(); ++i)
         addFolderButton(parts.at(i));
 
     markCurrent(m_folderButtons.at(parts.size() - 1));
@@ -44,6 +45,7 @@ void CVyFileDialogWidget::layoutDirSelector(const QString& path)
         button->setMinimumWidth(VyPathBar::MinimumWidth);
         button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     }
+    showFolderButtons(kept);
     layout()->update();
     m_shownFolder = path;
 }
@@ -55,7 +57,7 @@ void CVyFileDialogWidget::dirButtonPressed(QPushButton* button)
         return;
     markCurrent(m_folderButtons.at(index));
     for (CVyDirPushButton* each : qAsConst(m_folderButtons))
-        each->setMaximumWidth(VyPathBar::paddedWidth(each->fontMetrics(), each->shownName()));
+        each->fixShownWidth();
 
     // Laid out anew in any case: the folder may be gone, and then another one
     // is current; and the widths just set would let the row waste its room.
@@ -99,13 +101,28 @@ void CVyFileDialogWidget::addFolderButton(const QString& name)
     m_pathBar->addWidget(button, 0, Qt::AlignLeft);
 }
 
+// Shows the buttons that are new in a dialog that is shown. The layout would do
+// it itself, one by one, and lay out everything anew for each.
+void CVyFileDialogWidget::showFolderButtons(int from)
+{
+    if (!isVisible())
+        return;
+    layout()->setEnabled(false);
+    for (int i = from; i < m_folderButtons.size(); ++i)
+        m_folderButtons.at(i)->show();
+    layout()->setEnabled(true);
+}
+
 // Bold names the folder that the dialog shows.
 void CVyFileDialogWidget::markCurrent(const CVyDirPushButton* current)
 {
     const QFont normal = fontOf(m_folderButtons.constFirst(), false);
     const QFont bold = fontOf(m_folderButtons.constFirst(), true);
-    for (CVyDirPushButton* button : qAsConst(m_folderButtons))
-        button->setFont(button == current ? bold : normal);
+    for (CVyDirPushButton* button : qAsConst(m_folderButtons)) {
+        const QFont& font = button == current ? bold : normal;
+        if (button->font() != font || !button->testAttribute(Qt::WA_SetFont))
+            button->setFont(font);
+    }
 }
 
 // The row stands first, but its buttons were made before those of the button

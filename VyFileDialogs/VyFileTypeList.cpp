@@ -2,6 +2,7 @@
 #include "VyFileTypeList.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -19,6 +20,12 @@ void forEachPair(const CVyString& converted, Visitor visit)
         visit(fields[i], fields[i + 1]);
 }
 
+// The entries as parts of \a qtFilter, which they do not outlive.
+QVector<QStringRef> entriesOf(const QString& qtFilter)
+{
+    return qtFilter.splitRef(QLatin1Char(';'), Qt::SkipEmptyParts);
+}
+
 QStringList nonEmptyParts(const QString& text, char separator)
 {
     return text.split(QLatin1Char(separator), Qt::SkipEmptyParts);
@@ -28,13 +35,16 @@ QStringList nonEmptyParts(const QString& text, char separator)
 
 Types fromConverted(const CVyString& converted)
 {
-    QStringList entryList;
-    QStringList listOfLists;
+    Types types;
+    bool first = true;
     forEachPair(converted, [&](const CVyString& entry, const CVyString& patterns) {
-        entryList.append(entry);
-        listOfLists.append(extensionList(patterns));
+        types.qtFilter += first ? L"" : L";;";
+        types.qtFilter += entry;
+        types.extensionLists += first ? L"" : L"&";
+        types.extensionLists += extensionList(patterns);
+        first = false;
     });
-    return {entryList.join(QStringLiteral(";;")), listOfLists.join(QLatin1Char('&'))};
+    return types;
 }
 
 std::vector<CVyString> extensionLists(const CVyString& converted)
@@ -49,13 +59,14 @@ std::vector<CVyString> extensionLists(const CVyString& converted)
 CVyString extensionList(const CVyString& patterns)
 {
     CVyString extensions;
-    for (const CVyString& pattern : patterns.SplitA(';')) {
-        const int dot = pattern.findA(".");
-        if (dot < 0)
+    for (int start = 0, end = 0; end >= 0; start = end + 1) {
+        end = patterns.findA(";", start);
+        const int dot = patterns.findA(".", start);
+        if (dot < 0 || (end >= 0 && dot > end))
             break; // what follows is given up too
         if (!extensions.isEmpty())
             extensions += L";";
-        extensions += pattern.mid(dot + 1);
+        extensions += patterns.mid(dot + 1, end < 0 ? -1 : end - dot - 1);
     }
     return extensions;
 }
@@ -63,6 +74,16 @@ CVyString extensionList(const CVyString& patterns)
 QStringList entries(const CVyString& qtFilter)
 {
     return nonEmptyParts(qtFilter, ';');
+}
+
+QStringList patterns(const QString& entry)
+{
+    // QFileDialog's own expression; it is not to be had from there.
+    static const QRegularExpression inParentheses(
+        QStringLiteral(R"(^(.*)\(([a-zA-Z0-9_.,*? +;#\-\[\]@\{\}/!<>\$%&=^~:\|]*)\)$)"));
+    const QRegularExpressionMatch match = inParentheses.match(entry);
+    const QString list = match.hasMatch() ? match.captured(2) : entry;
+    return list.split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 QStringList splitLists(const CVyString& extensionLists)
@@ -77,15 +98,20 @@ QStringList splitExtensions(const QString& extensionList)
 
 CVyString entryAt(const CVyString& qtFilter, int index)
 {
-    const QStringList list = entries(qtFilter);
-    return list.isEmpty() ? CVyString() : CVyString(list.at(std::clamp(index, 0, list.size() - 1)));
+    const QString text = qtFilter;
+    const QVector<QStringRef> list = entriesOf(text);
+    if (list.isEmpty())
+        return CVyString();
+    return CVyString(list.at(std::clamp(index, 0, list.size() - 1)).toString());
 }
 
 int indexOf(const CVyString& qtFilter, const CVyString& selected)
 {
-    const QStringList list = entries(qtFilter);
-    const auto found = std::find_if(list.begin(), list.end(), [&](const QString& entry) {
-        return CVyString(entry).equalNoCase(selected);
+    const QString text = qtFilter;
+    const QString wanted = selected;
+    const QVector<QStringRef> list = entriesOf(text);
+    const auto found = std::find_if(list.begin(), list.end(), [&](const QStringRef& entry) {
+        return entry.compare(wanted, Qt::CaseInsensitive) == 0;
     });
     return found == list.end() ? -1 : static_cast<int>(found - list.begin());
 }

@@ -48,6 +48,10 @@ CVyString extensionList(const CVyString& patterns);
 /// as several.)
 QStringList entries(const CVyString& qtFilter);
 
+/// The wildcard patterns of one entry, as QFileDialog reads them: what stands in
+/// the parentheses at its end, or else all of it, parted by blanks.
+QStringList patterns(const QString& entry);
+
 /// The lists joined in \a extensionLists, empty ones skipped. A type without
 /// extensions therefore makes them fewer than the entries.
 QStringList splitLists(const CVyString& extensionLists);

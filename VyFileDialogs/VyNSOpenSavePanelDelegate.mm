@@ -10,6 +10,16 @@ BOOL isFolder(NSString* path)
            isDirectory;
 }
 
+BOOL hasExtensionIn(NSString* path, NSArray* types)
+{
+    NSString* const extension = [path pathExtension];
+    for (NSString* type in types) {
+        if ([extension caseInsensitiveCompare:type] == NSOrderedSame)
+            return YES;
+    }
+    return NO;
+}
+
 } // namespace
 
 @implementation CVyNSOpenSavePanelDelegate
@@ -24,14 +34,7 @@ BOOL isFolder(NSString* path)
 {
     if ([filename length] == 0)
         return NO;
-    if (isFolder(filename) || [m_arrayFileTypes count] == 0)
-        return YES;
-    NSString* const extension = [filename pathExtension];
-    for (NSString* type in m_arrayFileTypes) {
-        if ([type isEqualToString:@"*"] || [extension caseInsensitiveCompare:type] == NSOrderedSame)
-            return YES;
-    }
-    return NO;
+    return !m_restricted || hasExtensionIn(filename, m_arrayFileTypes) || isFolder(filename);
 }
 
 - (BOOL)panel:(id)sender shouldEnableURL:(NSURL*)url
@@ -48,6 +51,7 @@ BOOL isFolder(NSString* path)
 {
     [m_arrayFileTypes release];
     m_arrayFileTypes = types ? [[NSArray alloc] initWithArray:types copyItems:YES] : nil;
+    m_restricted = [m_arrayFileTypes count] > 0 && ![m_arrayFileTypes containsObject:@"*"];
 }
 
 - (void)panel:(id)sender didChangeToDirectoryURL:(NSURL*)url

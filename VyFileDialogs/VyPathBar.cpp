@@ -54,8 +54,11 @@ int paddedWidth(const QFontMetrics& metrics, const QString& text)
 
 QString fittingText(const QFontMetrics& metrics, const QString& name, int width)
 {
-    if (paddedWidth(metrics, name) <= width)
-        return name;
+    return paddedWidth(metrics, name) <= width ? name : elidedText(metrics, name, width);
+}
+
+QString elidedText(const QFontMetrics& metrics, const QString& name, int width)
+{
     const QString elided = metrics.elidedText(name, Qt::ElideRight, width - 15);
     return elided.isEmpty() ? QString(QChar(0x2026)) : elided;
 }

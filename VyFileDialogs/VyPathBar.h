@@ -36,4 +36,7 @@ int paddedWidth(const QFontMetrics& metrics, const QString& text);
 /// beginning with an ellipsis, at least that.
 QString fittingText(const QFontMetrics& metrics, const QString& name, int width);
 
+/// The same for a name that is known not to fit.
+QString elidedText(const QFontMetrics& metrics, const QString& name, int width);
+
 } // namespace VyPathBar

@@ -35,12 +35,11 @@ std::vector<Preset> presets(const QString& path, Request request)
     if (path.isEmpty() || path.contains(QChar(QChar::Null)))
         return {}; // no path; about a zero QFileInfo would warn on the host's log
     const QFileInfo info(QDir::toNativeSeparators(QDir::cleanPath(path)));
-    if (!info.exists())
-        return missingPath(info);
+    // In this order one question to the disk answers all of them.
     if (info.isDir())
         return {folderPreset(info.absoluteFilePath())};
     if (!info.isFile())
-        return {};
+        return info.exists() ? std::vector<Preset>() : missingPath(info);
     if (request == Request::MultipleFiles)
         return {namePreset(info.absoluteFilePath())};
     return {namePreset(info.fileName()), folderPreset(info.absolutePath())};

@@ -37,8 +37,17 @@ function(vy_shared_library name)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
+    vy_complete_library(${name})
+endfunction()
+
+# vy_complete_library(<name>): names all libraries that it needs. Those of ours
+# that are installed lie beside it.
+function(vy_complete_library name)
     # The sanitizers' runtime comes with the executable.
     if(NOT APPLE AND NOT VY_SANITIZERS)
         target_link_options(${name} PRIVATE LINKER:-z,defs)
+    endif()
+    if(NOT APPLE)
+        set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
     endif()
 endfunction()

@@ -37,3 +37,4 @@ build_packages=(cmake ninja-build g++ clang qtbase5-dev libqt5x11extras5-dev zli
 display_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-dejavu-core)
 test_packages=(libclang-rt-dev llvm gcovr mandoc binutils libqt5svg5 fonts-vlgothic
     qt5-xdgdesktopportal-platformtheme)
+benchmark_packages=(python3 binutils gnuplot-nox kdialog zenity yad)

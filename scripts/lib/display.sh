@@ -2,6 +2,8 @@
 # shellcheck shell=bash
 # A virtual display with a window manager, and a user in front of it.
 
+folders_of_display=() # that go with it
+
 # start_display FOLDER [GEOMETRY]: sets DISPLAY to a server of our own, which
 # ends with this shell. Its logs go to FOLDER.
 start_display() {
@@ -15,7 +17,7 @@ start_display() {
     unset WAYLAND_DISPLAY QT_QPA_PLATFORM
     openbox >"$folder/openbox.log" 2>&1 &
     display_pids+=($!)
-    wait_until 'the window manager' 20 window_manager_runs
+    wait_until 'the window manager' 60 window_manager_runs
 }
 
 # A number by chance, not the next free one: a server that is just ending would
@@ -35,6 +37,7 @@ stop_display() {
     local status=$? # the trap must not change it
     kill "${display_pids[@]}" 2>/dev/null || true
     wait "${display_pids[@]}" 2>/dev/null || true
+    rm -rf "${folders_of_display[@]}"
     return "$status"
 }
 

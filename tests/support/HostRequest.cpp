@@ -2,6 +2,7 @@
 #include "HostRequest.h"
 
 #include <QAbstractItemView>
+#include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QFileSystemModel>
 #include <QLineEdit>
@@ -24,7 +25,8 @@ CVyUserIO::_FileNameFlags flagsOf(const HostRequest& request)
 QModelIndex indexOf(QFileDialog& dialog, const QString& name)
 {
     auto* model = dialog.findChild<QFileSystemModel*>();
-    return model->index(dialog.directory().absoluteFilePath(name));
+    const QModelIndex index = model->index(dialog.directory().absoluteFilePath(name));
+    return dialog.proxyModel() ? dialog.proxyModel()->mapFromSource(index) : index;
 }
 
 } // namespace
