@@ -1,0 +1,110 @@
+# SPDX-License-Identifier: MIT
+"""The live dialog against a bare QFileDialog, on a platform without a screen."""
+from cases import Case, by_size, files, plural
+from results import Limit
+
+SIZES = [10, 1000, 20000, 100000]
+FIFTIETH = 50
+LOOK = 400  # milliseconds that a user looks at each drawing
+
+
+def first_paint(setting):
+    for size in setting.sizes:
+        at = "--folder=" + setting.folder(size)
+        yield Case("first paint", f"{files(size)}, first request", size,
+                   setting.both("FirstPaint", at, "--requests=1"),
+                   setting.repetitions(41), {"first": Limit("ratio", 1.10)}, curve="first")
+        yield Case("first paint", f"{files(size)}, 50 requests", size,
+                   {"both": [setting.program("FirstPaint"), at,
+                             f"--requests={max(3, setting.repetitions(50))}"]},
+                   setting.repetitions(5),
+                   {"later": Limit("ratio", 1.05)}, curve="later")
+        yield Case("first paint", f"{files(size)}, requests to the {FIFTIETH}th", size,
+                   setting.both("FirstPaint", at, f"--requests={FIFTIETH}"),
+                   setting.repetitions(by_size(size, 11, 7)), {"late": Limit("ratio", 1.05)},
+                   curve="late")
+
+
+def list_filling(setting):
+    for share in (100, 10):
+        for patterns in (1, 6):
+            for size in setting.sizes:
+                limits = {}
+                if size == 100000 and share == 100:
+                    limits = {"complete": Limit("ratio", 0.50), "stall": Limit("ratio", 0.45)}
+                    if patterns == 6:
+                        limits = dict.fromkeys(("complete", "stall"), Limit("ratio", 0.20))
+                elif size <= 1000:
+                    limits = dict.fromkeys(("complete", "stall"), Limit("ratio", 1.05))
+                kinds = plural(patterns, "pattern")
+                yield Case("list filling", f"{files(size)}, {kinds}, {share} % match", size,
+                           setting.both("ListFilling",
+                                        "--folder=" + setting.folder(size, patterns, share),
+                                        f"--patterns={patterns}", f"--rows={size * share // 100}"),
+                           setting.repetitions(by_size(size, 31, 5 if patterns == 6 else 7)),
+                           limits,
+                           curve=f"{kinds}, {share} % match")
+
+
+def type_switch(setting):
+    for patterns in (1, 6):
+        for size in setting.sizes:
+            limits = {}
+            if size == 100000:
+                limits = dict.fromkeys(("widened", "narrowed"), Limit("ratio", 0.20))
+            kinds = plural(patterns, "pattern")
+            yield Case("type switch", f"{files(size)}, {kinds}", size,
+                       setting.both("TypeSwitch", "--folder=" + setting.folder(size, patterns, 10),
+                                    f"--patterns={patterns}", f"--rows={size // 10}",
+                                    f"--all-rows={size}"),
+                       setting.repetitions(by_size(size, 15, 5)), limits, curve=kinds)
+
+
+def answer_to_exit(setting):
+    for answer in ("accept", "reject"):
+        for size in setting.sizes:
+            limits = {}
+            if size == 100000:
+                limits = {"returned": Limit("ratio", 0.50)}
+            yield Case("answer to exit", f"{files(size)}, {answer}ed", size,
+                       setting.both("AnswerToExit", "--folder=" + setting.folder(size),
+                                    f"--rows={size}", f"--answer={answer}"),
+                       setting.repetitions(by_size(size, 15, 7)), limits, curve=answer)
+
+
+def memory(setting):
+    for size in setting.sizes:
+        yield Case("memory", f"{files(size)}, one request", size,
+                   setting.both("Memory", "--folder=" + setting.folder(size), f"--rows={size}"),
+                   setting.repetitions(by_size(size, 7, 3)), curve="one request",
+                   units={"peak resident growth": "MB", "heap growth left": "MB"})
+    size = min(setting.sizes)
+    requests = max(100, setting.repetitions(1000))
+    yield Case("memory", f"{files(size)}, {requests:,} requests", size,
+               setting.both("Memory", "--folder=" + setting.folder(size), f"--rows={size}",
+                            f"--requests={requests}"),
+               setting.repetitions(1),
+               units={"resident growth, each request": "KB", "heap growth, each request": "KB"})
+
+
+def slow_share(setting):
+    """Every call that concerns the folder takes 20 ms more."""
+    size = 40
+    folder = setting.drawings(size)
+    names = ("stall opening", "stall walking", "stall clicking")
+    yield Case("slow share", f"{size} drawings with previews, 20 ms a call", size,
+               setting.both("SlowFolder", "--folder=" + folder, f"--rows={size}",
+                            f"--look={LOOK if setting.scale else 10}"),
+               setting.repetitions(7), dict.fromkeys(names, Limit("ratio", 1.05)),
+               environment={"LD_PRELOAD": setting.file("tests/slow-share/libVySlowShare.so"),
+                            "VY_SLOW_SHARE": folder, "VY_SLOW_SHARE_MS": str(20 if setting.scale else 1)})
+
+
+BENCHMARKS = {
+    "first-paint": first_paint,
+    "list-filling": list_filling,
+    "type-switch": type_switch,
+    "answer-to-exit": answer_to_exit,
+    "memory": memory,
+    "slow-share": slow_share,
+}
