@@ -5,6 +5,7 @@
 #include "VyFileListModel.h"
 #include "VyFileTypeList.h"
 #include "VyPreviewReader.h"
+#include "VyStandardIcons.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -31,7 +32,7 @@ QString offeredTypes(const CVyString& qtFilter)
 
 CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner, CVyString& title,
                                          CVyString& folder, CVyString& filter, bool previewAllowed)
-    : QFileDialog(parent, title, folder, offeredTypes(filter))
+    : QFileDialog(CVyStandardIcons(parent).parentOfDialog(), title, folder, offeredTypes(filter))
     , m_owner(owner)
 {
     setObjectName(QStringLiteral("fileDialog"));

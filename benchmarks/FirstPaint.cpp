@@ -8,6 +8,14 @@ namespace {
 
 constexpr int LateRequests = 5; ///< at the end of many: one alone says little
 
+// What a dialog leaves to the host's event loop is done there, not in the next
+// request.
+void returnToHost()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
 // Reports \a metric, if there is one.
 void measure(bool floor, const DrawingRequest& request, const char* metric)
 {
@@ -15,6 +23,7 @@ void measure(bool floor, const DrawingRequest& request, const char* metric)
     const auto note = [&](DialogProbe& probe) { milliseconds = probe.firstPaint(); };
     const DialogProbe probe({Steps::untilPainted(), Steps::doNow(note), Steps::reject()});
     (floor ? askFloor : askSubject)(request);
+    returnToHost();
     if (metric)
         Measurement::report(floor ? "floor" : "subject", metric, milliseconds);
 }
