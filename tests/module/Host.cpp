@@ -4,12 +4,15 @@
 //
 //     load      loads the plug-in
 //     qt        a request in the Qt style, cancelled: its status
+//     preview   as qt, cancelled while the preview of the first file is read
 //     native    a request in the native style: its status
 //     thread    as native, but wrongly on another thread
 //     modules   how many modules of native panels are loaded, and whether GNUstep is
 //     unload    lets go of the plug-in
+//     wait      until what is still being read has been
 #include <QApplication>
 
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <thread>
@@ -67,6 +70,11 @@ bool take(const char* step, const char* path, void*& plugin)
     }
     if (std::strcmp(step, "unload") == 0) {
         std::printf("unload %s\n", dlclose(plugin) == 0 ? "ok" : dlerror());
+        return true;
+    }
+    if (std::strcmp(step, "wait") == 0) {
+        std::this_thread::sleep_for(std::chrono::seconds(2));
+        std::printf("wait ok\n");
         return true;
     }
     const auto ask = reinterpret_cast<int (*)(const char*)>(dlsym(plugin, "ask"));

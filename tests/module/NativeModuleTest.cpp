@@ -34,6 +34,7 @@ private Q_SLOTS:
     void mayBeMissing();
     void outlivesItsHost_data();
     void outlivesItsHost();
+    void outlivesAPreview();
 
 private:
     QString path(const QString& name) const { return m_folder->filePath(name); }
@@ -41,9 +42,10 @@ private:
     {
         QVERIFY2(QFile::copy(file, path(name)), qPrintable(file));
     }
-    void run(const QString& steps);
+    void run(const QString& steps, const QString& folder = QDir::rootPath());
 
     std::unique_ptr<QTemporaryDir> m_folder;
+    QProcessEnvironment m_environment;
     QString m_output;
     QString m_errors;
 };
@@ -52,15 +54,17 @@ void NativeModuleTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
+    m_environment = QProcessEnvironment::systemEnvironment();
     for (const char* const file : {VY_PLUGIN, VY_LIBRARY, VY_KERNEL})
         put(file, QFileInfo(file).fileName());
 }
 
-// The host takes \a steps, and they all go well.
-void NativeModuleTest::run(const QString& steps)
+// The host takes \a steps in \a folder, and they all go well.
+void NativeModuleTest::run(const QString& steps, const QString& folder)
 {
     QProcess host;
-    host.setWorkingDirectory(QDir::rootPath());
+    host.setWorkingDirectory(folder);
+    host.setProcessEnvironment(m_environment);
     host.start(VY_HOST, QStringList(path(QFileInfo(VY_PLUGIN).fileName())) + steps.split(' '));
     QVERIFY(host.waitForFinished(60000));
     m_output = QString::fromLocal8Bit(host.readAllStandardOutput());
@@ -157,6 +161,29 @@ void NativeModuleTest::outlivesItsHost()
     expected += nativeRequests ? "modules 1, GNUstep yes\n" : "modules 0, GNUstep no\n";
     QCOMPARE(m_output, expected);
     QCOMPARE(m_errors, noDisplay.repeated(nativeRequests));
+}
+
+// What is left to do may be in the middle of the library's code.
+void NativeModuleTest::outlivesAPreview()
+{
+#ifdef VY_SLOW_SHARE
+    const QString share = path("share");
+    QVERIFY(QDir().mkdir(share));
+    QVERIFY(QFile::copy(QFINDTESTDATA("../../examples/drawings/gear.dxf"), share + "/plan.dxf"));
+    m_environment.insert("LD_PRELOAD", VY_SLOW_SHARE);
+    m_environment.insert("VY_SLOW_SHARE", share);
+    m_environment.insert("VY_SLOW_SHARE_MS", "100");
+    m_environment.insert("VY_SLOW_SHARE_LOG", path("log"));
+    run("load preview unload wait", share);
+    QCOMPARE(m_output, QString("load ok\npreview -5002\nunload ok\nwait ok\n"));
+
+    QFile log(path("log"));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const QByteArray last = log.readAll().trimmed().split('\n').last();
+    QVERIFY2(last.endsWith("plan.dxf") && !last.startsWith("main"), last.constData());
+#else
+    QSKIP("needs a library to be preloaded, which the sanitizers do not allow");
+#endif
 }
 
 QTEST_GUILESS_MAIN(NativeModuleTest)
