@@ -5,61 +5,89 @@
 #include <QCommonStyle>
 #include <QEvent>
 #include <QIcon>
-#include <QVariantMap>
+#include <QIconEngine>
+#include <QPainter>
 #include <QWidget>
 
 namespace {
 
-// A list of types that Qt knows: it may outlive this library, which a host may
-// unload.
-constexpr char keptIcons[] = "VyStandardIcons";
-
-// What the icons of Qt's own styles depend on.
-QString look()
+// A standard icon that reads its smallest picture, which is what a style's
+// standardPixmap() answers, and all of them only for one of another size.
+class StandardIcon : public QIconEngine
 {
-    return QStringList{QString::fromLatin1(QApplication::style()->metaObject()->className()),
-                       QIcon::themeName(), QIcon::fallbackThemeName(),
-                       QString::number(QGuiApplication::layoutDirection()),
-                       QString::number(qApp->devicePixelRatio())}
-        .join(QLatin1Char('\n'));
-}
+public:
+    explicit StandardIcon(QStyle::StandardPixmap name)
+        : m_name(name)
+    {}
 
-// The icons read so far, by number, and their look under an empty key.
-QVariantMap readIcons()
-{
-    const QVariantMap icons = qApp->property(keptIcons).toMap();
-    const QString now = look();
-    if (icons.value(QString()).toString() == now)
-        return icons;
-    return {{QString(), now}};
-}
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return forSize(size).pixmap(size, mode, state);
+    }
+
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return forSize(size).actualSize(size, mode, state);
+    }
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override
+    {
+        painter->drawPixmap(place, pixmap(place.size(), mode, state));
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) const override
+    {
+        return all().availableSizes(mode, state);
+    }
+
+    QString iconName() const override { return all().name(); }
+
+    void addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state) override
+    {
+        all().addPixmap(pixmap, mode, state);
+        m_smallest = m_all;
+    }
+
+    void addFile(const QString& name, const QSize& size, QIcon::Mode mode,
+                 QIcon::State state) override
+    {
+        all().addFile(name, size, mode, state);
+        m_smallest = m_all;
+    }
+
+    QIconEngine* clone() const override { return new StandardIcon(*this); }
+
+private:
+    const QIcon& forSize(const QSize& size)
+    {
+        if (m_smallest.isNull())
+            m_smallest = QApplication::style()->standardPixmap(m_name);
+        return m_smallest.actualSize(size) == size ? m_smallest : all();
+    }
+
+    QIcon& all() const
+    {
+        if (m_all.isNull())
+            m_all = QApplication::style()->standardIcon(m_name);
+        return m_all;
+    }
+
+    const QStyle::StandardPixmap m_name;
+    QIcon m_smallest;
+    mutable QIcon m_all;
+};
 
 // Answers what a dialog asks its style while it is made: icons, and how wide
 // margins are. Its children ask the application's, and nothing is painted yet.
 class LentStyle : public QCommonStyle
 {
 public:
-    LentStyle()
-        : m_icons(readIcons())
-    {}
-
-    ~LentStyle() override
-    {
-        if (m_hasNew)
-            qApp->setProperty(keptIcons, m_icons);
-    }
-
     QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
                        const QWidget* widget) const override
     {
         if (option)
             return QApplication::style()->standardIcon(name, option, widget);
-        QVariant& icon = m_icons[QString::number(name)];
-        if (!icon.isValid()) {
-            icon = QApplication::style()->standardIcon(name, option, widget);
-            m_hasNew = true;
-        }
-        return icon.value<QIcon>();
+        return QIcon(new StandardIcon(name));
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -73,17 +101,21 @@ public:
     {
         return QApplication::style()->styleHint(hint, option, widget, answer);
     }
-
-private:
-    mutable QVariantMap m_icons;
-    mutable bool m_hasNew = false;
 };
 
-// A style sheet's is none of them.
+// Of others nobody knows that their pictures and their icons are the same. A style
+// sheet's is none of them.
 bool isQtsOwn(const QStyle& style)
 {
     const char* const name = style.metaObject()->className();
     return qstrcmp(name, "QFusionStyle") == 0 || qstrcmp(name, "QWindowsStyle") == 0;
+}
+
+bool readsTooMuch(const QWidget* parent)
+{
+    const QStyle* style = QApplication::style();
+    return isQtsOwn(*style) && (!parent || parent->style() == style) &&
+           qApp->devicePixelRatio() <= 1;
 }
 
 } // namespace
@@ -91,8 +123,7 @@ bool isQtsOwn(const QStyle& style)
 CVyStandardIcons::CVyStandardIcons(QWidget* parent)
     : m_parent(parent)
 {
-    const QStyle* style = QApplication::style();
-    if (!isQtsOwn(*style) || (parent && parent->style() != style))
+    if (!readsTooMuch(parent))
         return;
     m_style = std::make_unique<LentStyle>();
     qApp->installEventFilter(this);

@@ -9,15 +9,15 @@
 class QStyle;
 class QWidget;
 
-/// Spares a dialog of Qt's the reading of its standard icons, which Qt decodes
-/// anew for every dialog: a quarter of the time until it is painted. The
-/// application keeps them, as a property of its object, until its style, icon
-/// theme, direction or resolution is another.
+/// Spares a dialog of Qt's most of the reading of its standard icons: Qt reads each
+/// in all of its sizes, and its buttons show one, the smallest. The dialog gets the
+/// same icons, the larger pictures of which are read when somebody asks for them.
 ///
 /// The first widget that is made while this lives is lent a style for as long,
 /// one that answers as the application's does. Nothing is lent, and Qt reads the
-/// icons, where style sheets apply and for styles other than Qt's own, whose icons
-/// may depend on what nobody knows. In the user-interface thread.
+/// icons, where a style sheet applies, for styles other than Qt's own and on
+/// screens of high resolution, where larger pictures are shown. In the
+/// user-interface thread.
 class CVyStandardIcons : public QObject
 {
 public:
