@@ -3,22 +3,12 @@
 // which time follows.
 #include "AllocationCount.h"
 #include "DrawingFolder.h"
+#include "FolderButtons.h"
 #include "HostRequest.h"
-#include "VyDirPushButton.h"
 
-#include <QHBoxLayout>
 #include <QtTest>
 
 namespace {
-
-QList<CVyDirPushButton*> buttons(QFileDialog& dialog)
-{
-    QList<CVyDirPushButton*> row;
-    const auto* layout = dialog.findChild<QHBoxLayout*>(QStringLiteral("pathBar"));
-    for (int i = 0; i < layout->count(); ++i)
-        row.append(qobject_cast<CVyDirPushButton*>(layout->itemAt(i)->widget()));
-    return row;
-}
 
 // What happens to the buttons, and how often the whole dialog is laid out.
 struct Work : QObject

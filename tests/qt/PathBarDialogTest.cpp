@@ -3,8 +3,8 @@
 // of navigation, what it does with little room, and that it stays out of the
 // keyboard's way.
 #include "DrawingFolder.h"
+#include "FolderButtons.h"
 #include "HostRequest.h"
-#include "VyDirPushButton.h"
 #include "VyPathBar.h"
 
 #include <QComboBox>
@@ -17,15 +17,6 @@
 #include <QtTest>
 
 namespace {
-
-QList<CVyDirPushButton*> buttons(QFileDialog& dialog)
-{
-    QList<CVyDirPushButton*> row;
-    const auto* layout = dialog.findChild<QHBoxLayout*>(QStringLiteral("pathBar"));
-    for (int i = 0; i < layout->count(); ++i)
-        row.append(qobject_cast<CVyDirPushButton*>(layout->itemAt(i)->widget()));
-    return row;
-}
 
 // The row's names with the bold one in brackets, as in "/ tmp [work]".
 QString row(QFileDialog& dialog)

@@ -77,6 +77,21 @@ QStringList drawings(int count)
     return names;
 }
 
+// At work on a file whose disk does not answer.
+class BusyReader : public CVyPreviewReader
+{
+public:
+    BusyReader()
+    {
+        s_disk.slow = QStringList{"1.dwg"};
+        read("1.dwg");
+        if (!QTest::qWaitFor([] { return s_disk.startedSoFar().size() == 1; }))
+            QTest::qFail("the file is not being read", __FILE__, __LINE__);
+    }
+
+    QSignalSpy found{this, &CVyPreviewReader::found};
+};
+
 } // namespace
 
 CVyPreviewBitmap* CVyPreviewBitmap::Create()
@@ -156,16 +171,12 @@ void PreviewReaderTest::slowFileDelaysNoOther()
 
 void PreviewReaderTest::lateAnswerIsDropped()
 {
-    s_disk.slow = QStringList{"1.dwg"};
-    CVyPreviewReader reader;
-    QSignalSpy found(&reader, &CVyPreviewReader::found);
-    reader.read("1.dwg");
-    QTRY_COMPARE(s_disk.startedSoFar().size(), 1);
+    BusyReader reader;
     reader.read("2.dwg");
-    QTRY_COMPARE(found.size(), 1);
+    QTRY_COMPARE(reader.found.size(), 1);
     s_disk.answer("1.dwg");
     QTest::qWait(100);
-    QCOMPARE(found.size(), 1);
+    QCOMPARE(reader.found.size(), 1);
 }
 
 void PreviewReaderTest::fileWithoutPreviewAnnouncesNothing()
@@ -180,16 +191,12 @@ void PreviewReaderTest::fileWithoutPreviewAnnouncesNothing()
 
 void PreviewReaderTest::cancelled()
 {
-    s_disk.slow = QStringList{"1.dwg"};
-    CVyPreviewReader reader;
-    QSignalSpy found(&reader, &CVyPreviewReader::found);
-    reader.read("1.dwg");
-    QTRY_COMPARE(s_disk.startedSoFar().size(), 1);
+    BusyReader reader;
     reader.read("2.dwg");
     reader.cancel();
     s_disk.answer("1.dwg");
     QTest::qWait(150);
-    QVERIFY(found.isEmpty());
+    QVERIFY(reader.found.isEmpty());
     QCOMPARE(s_disk.startedSoFar(), QStringList{"1.dwg"});
 }
 
