@@ -2,12 +2,21 @@
 # How a test is added.
 set(vy_tests ${CMAKE_CURRENT_LIST_DIR}/../tests)
 
+# Many programs, each with all of the module: most linkers take longer than the compiler.
+if(NOT APPLE)
+    find_program(VY_LLD ld.lld)
+    mark_as_advanced(VY_LLD)
+endif()
+
 # vy_test_library(<name> <header>...): what the programs of a folder share. They
 # are compiled again and again and run once, hence without optimisation, and with
 # Qt's headers read beforehand.
 function(vy_test_library name)
     vy_target(${name})
     target_compile_options(${name} PUBLIC -O0)
+    if(VY_LLD)
+        target_link_options(${name} PUBLIC -fuse-ld=lld)
+    endif()
     target_precompile_headers(${name} PRIVATE ${ARGN})
 endfunction()
 
@@ -24,6 +33,9 @@ function(vy_add_test name)
         $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
     target_link_libraries(${name} PRIVATE ${VY_TEST_LIBRARY} ${arg_LINK} Qt5::Test)
     target_precompile_headers(${name} REUSE_FROM ${VY_TEST_LIBRARY})
+    # It is all but empty: moc's output is included where it belongs.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     if(arg_DISPLAY)
         add_test(NAME ${name}
             COMMAND ${vy_tests}/support/with-display.sh
