@@ -53,7 +53,9 @@ QByteArray sectionOf(const QByteArray& groups)
 // Another section, whose last object has data.
 QByteArray dataOfAnObject(const QByteArray& groups)
 {
-    return "  0\nSECTION\n  2\nOBJECTS\n  0\nOLE2FRAME\n" + groups + "  0\nENDSEC\n";
+    QByteArray section = "  0\nSECTION\n  2\nOBJECTS\n  0\nOLE2FRAME\n";
+    section.append(groups).append("  0\nENDSEC\n");
+    return section;
 }
 
 // A comment that has \a size bytes with its code.
@@ -159,11 +161,13 @@ void DxfThumbnailTest::behindOtherData()
 {
     QFETCH(int, perLine);
     const QByteArray section = thumbnailSection(data(16 * kibibyte));
-    const QByteArray other = lines(data(96 * kibibyte), perLine);
+    const QByteArray other = dataOfAnObject(lines(data(96 * kibibyte), perLine));
     int missed = 0;
     const int period = lines(data(perLine)).size();
     for (int shift = 0; shift < period; ++shift) {
-        const QByteArray file = dxfOf(dataOfAnObject(other) + comment(6 + shift) + section);
+        QByteArray body = other;
+        body.append(comment(6 + shift)).append(section);
+        const QByteArray file = dxfOf(body);
         SparseDevice device(file);
         CVyPreviewSource source(device);
         const QByteArray groups = groupsIn(file);

@@ -194,8 +194,10 @@ QByteArray Dwg::bytes() const
 
 QByteArray dxfOf(const QByteArray& body)
 {
-    return "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n" + body +
-           "  0\nEOF\n";
+    QByteArray file = "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  0\nENDSEC\n";
+    file.append(body); // in one piece, where + takes byte after byte
+    file.append("  0\nEOF\n");
+    return file;
 }
 
 QByteArray thumbnailSection(const QByteArray& bytes, int perLine)
@@ -212,7 +214,8 @@ QByteArray thumbnailSection(const QByteArray& bytes, const QByteArray& count, in
         section += bytes.mid(at, perLine).toHex().toUpper();
         section += "\n";
     }
-    return section + "  0\nENDSEC\n";
+    section += "  0\nENDSEC\n";
+    return section;
 }
 
 } // namespace PreviewFiles

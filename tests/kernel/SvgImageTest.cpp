@@ -43,9 +43,13 @@ QByteArray path(const QByteArray& attributes)
 // \a count times \a text, in which each %1 is the number of the time.
 QByteArray times(int count, const char* text)
 {
+    constexpr int different = 97;
+    QByteArray each[different];
+    for (int i = 0; i < different; ++i)
+        each[i] = QByteArray(text).replace("%1", QByteArray::number(i));
     QByteArray all;
     for (int i = 0; i < count; ++i)
-        all += QByteArray(text).replace("%1", QByteArray::number(i % 97));
+        all += each[i % different];
     return all;
 }
 
