@@ -42,7 +42,8 @@ QString active()
 }
 
 // What is to be the same afterwards: the window in its frame, the frame and what
-// the window manager notes.
+// the window manager notes, but for WM_STATE, which it notes of a window on another
+// desktop when that is shown.
 QString look(const QString& window)
 {
     static const QRegularExpression facts(
@@ -53,9 +54,7 @@ QString look(const QString& window)
         result += ' ' + found.next().captured().section(' ', -1);
     const QString properties =
         said("xprop", {"-id", window, "_NET_FRAME_EXTENTS", "_NET_WM_STATE", "_NET_WM_DESKTOP",
-                       "_NET_WM_WINDOW_OPACITY", "_NET_WM_WINDOW_TYPE",
-                       "WM_TRANSIENT_FOR"
-                       "WM_STATE"});
+                       "_NET_WM_WINDOW_OPACITY", "_NET_WM_WINDOW_TYPE", "WM_TRANSIENT_FOR"});
     return result + ' ' + properties.simplified();
 }
 
