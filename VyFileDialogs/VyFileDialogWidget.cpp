@@ -2,6 +2,7 @@
 #include "VyFileDialogWidget.h"
 
 #include "VyFileDialogQt.h"
+#include "VyFileIcons.h"
 #include "VyFileListModel.h"
 #include "VyFileTypeList.h"
 #include "VyPreviewReader.h"
@@ -115,6 +116,8 @@ void CVyFileDialogWidget::addFileList()
     auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (!m_model || !types || !name)
         return;
+    if (const auto* view = findChild<QListView*>(QStringLiteral("listView")))
+        new CVyFileIcons(m_model, view->rootIndex());
     m_list = new CVyFileListModel(this);
     setProxyModel(m_list);
 

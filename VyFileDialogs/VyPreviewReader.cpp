@@ -48,13 +48,16 @@ public:
         , m_number(++*newest)
     {}
 
+    // An exception that left the thread would end the host. Memory may be short, and a
+    // kernel of the host's own may throw what it likes: then there is no preview.
     void run() override
-    {
+    try {
         if (*m_newest != m_number)
             return;
         const QImage image = previewOf(m_path);
         if (!image.isNull())
             Q_EMIT done(m_number, image);
+    } catch (...) {
     }
 
 Q_SIGNALS:

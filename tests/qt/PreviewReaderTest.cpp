@@ -49,13 +49,16 @@ struct Disk
 
 Disk s_disk;
 
-// Each file is a picture as wide as its name's number; "none" has no preview.
+// Each file is a picture as wide as its name's number; "none" has no preview, and
+// for "large" there is no memory.
 class FakePreview : public CVyPreviewBitmap
 {
 public:
     bool ReadPreview(const CVyString& path) override
     {
         s_disk.read(path);
+        if (Disk::nameOf(path) == "large.dwg")
+            throw std::bad_alloc();
         m_width = Disk::nameOf(path).section('.', 0, 0).toInt();
         return m_width > 0;
     }
@@ -112,6 +115,7 @@ private Q_SLOTS:
     void slowFileDelaysNoOther();
     void lateAnswerIsDropped();
     void fileWithoutPreviewAnnouncesNothing();
+    void outlivesAnException();
     void cancelled();
     void goesWithoutWaiting();
     void unansweredFilesAreFew();
@@ -187,6 +191,18 @@ void PreviewReaderTest::fileWithoutPreviewAnnouncesNothing()
     QTRY_COMPARE(s_disk.startedSoFar(), QStringList{"none.dwg"});
     QTest::qWait(50);
     QVERIFY(found.isEmpty());
+}
+
+void PreviewReaderTest::outlivesAnException()
+{
+    CVyPreviewReader reader;
+    QSignalSpy found(&reader, &CVyPreviewReader::found);
+    reader.read("large.dwg");
+    QTRY_COMPARE(s_disk.startedSoFar(), QStringList{"large.dwg"});
+    QTest::qWait(50);
+    reader.read("3.dwg");
+    QTRY_COMPARE(found.size(), 1);
+    QCOMPARE(found.at(0).at(0).value<QImage>().width(), 3);
 }
 
 void PreviewReaderTest::cancelled()
