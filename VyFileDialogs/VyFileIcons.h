@@ -9,8 +9,8 @@
 class QFileSystemModel;
 
 /// What a file system's model shows beside names: the icons and type names of its
-/// own provider, which this one asks once for each kind of file. Qt's takes longer
-/// for a file than all else that the model does with it.
+/// own provider, which this one asks once for each kind of file. The model asks for
+/// each file, in the interface's thread.
 ///
 /// In the thread of the model, which owns it.
 class CVyFileIcons : public QObject, public QFileIconProvider
