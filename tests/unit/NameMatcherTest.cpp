@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The patterns of a file type, against Qt's own answers to them.
 #include "CompiledExpressions.h"
+#include "QtMatcher.h"
 #include "VyNameMatcher.h"
 
 #include <QtTest>
@@ -8,31 +9,6 @@
 #include <random>
 
 namespace {
-
-// As QFileSystemModel matches a name: an expression for each pattern.
-class QtMatcher
-{
-public:
-    explicit QtMatcher(const QStringList& patterns)
-    {
-        for (const QString& pattern : patterns)
-            m_expressions.append(
-                QRegularExpression(QRegularExpression::wildcardToRegularExpression(pattern),
-                                   QRegularExpression::CaseInsensitiveOption));
-    }
-
-    bool matches(const QString& name) const
-    {
-        for (const QRegularExpression& expression : m_expressions) {
-            if (expression.isValid() && expression.match(name).hasMatch())
-                return true;
-        }
-        return m_expressions.isEmpty();
-    }
-
-private:
-    QVector<QRegularExpression> m_expressions;
-};
 
 QString randomText(std::mt19937& random, const QString& letters, int longest)
 {
