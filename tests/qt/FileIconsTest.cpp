@@ -66,6 +66,7 @@ private Q_SLOTS:
     void init() { CVyFileDialog::SetStyle(CVyFileDialog::StyleQt); }
     void areThoseOfQt_data();
     void areThoseOfQt();
+    void ofALinkAreItsOwn();
     void areAskedForOnceASuffix();
     void ofTheirOwnAreAskedForEachTime();
     void areInTheDialog();
@@ -116,6 +117,19 @@ void FileIconsTest::areThoseOfQt()
     for (const auto kind : {QFileIconProvider::Computer, QFileIconProvider::Folder,
                             QFileIconProvider::File, QFileIconProvider::Drive})
         QCOMPARE(picture(files.icons->icon(kind)), picture(qt.icon(kind)));
+}
+
+// A link after what it leads to, of the same suffix.
+void FileIconsTest::ofALinkAreItsOwn()
+{
+    const QFileIconProvider qt;
+    const Files files;
+    for (const char* name : {"plan.dwg", "link.dwg", "folder.dwg", "folder link.dwg"}) {
+        const QFileInfo info(path(name));
+        QCOMPARE(picture(files.icons->icon(info)), picture(qt.icon(info)));
+    }
+    QVERIFY(picture(qt.icon(QFileInfo(path("link.dwg")))) !=
+            picture(qt.icon(QFileInfo(path("plan.dwg")))));
 }
 
 void FileIconsTest::areAskedForOnceASuffix()
@@ -177,9 +191,11 @@ void FileIconsTest::foldersOnTheWayAreNotAskedForAgain()
     const QModelIndex shown = model.setRootPath(m_folder.path());
     const QIcon before = model.fileIcon(shown);
     qt.icons.clear();
-    new CVyFileIcons(&model, shown);
+    const auto* icons = new CVyFileIcons(&model, shown);
     QCOMPARE(qt.icons, QStringList());
     QCOMPARE(model.fileIcon(shown).cacheKey(), before.cacheKey());
+    icons->icon(QFileInfo(m_folder.path())); // later, when the folder has changed
+    QCOMPARE(qt.icons.size(), 1);
 }
 
 QTEST_MAIN(FileIconsTest)
