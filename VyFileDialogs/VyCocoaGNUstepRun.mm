@@ -14,6 +14,10 @@
 
 #include <X11/Xutil.h> // last: it defines common words as macros
 
+@interface NSTextView (VyPrivate)
+- (void)_stopInsertionTimer;
+@end
+
 namespace {
 
 constexpr NSTimeInterval tickInterval = 0.02; // seconds
@@ -229,12 +233,24 @@ NSInteger runTicking(NSSavePanel* panel, NSView* nameField)
     }
 }
 
+// GNUstep forgets the timer of the name field's caret when the panel goes, and the
+// timer keeps the text view. It is in a mode that no loop of Qt's runs: asked when
+// its next timer is due, the mode lets go of those that have been stopped.
+void stopCaret(NSSavePanel* panel)
+{
+    NSText* const editor = [panel fieldEditor:NO forObject:nil];
+    if ([editor respondsToSelector:@selector(_stopInsertionTimer)])
+        [static_cast<NSTextView*>(editor) _stopInsertionTimer];
+    [[NSRunLoop currentRunLoop] limitDateForMode:NSDefaultRunLoopMode];
+}
+
 } // namespace
 
 NSInteger VyCocoaGNUstep::run(NSSavePanel* panel, NSView* nameField)
 {
     const NSInteger response = runTicking(panel, nameField);
     [panel orderOut:nil];
+    stopCaret(panel);
     VyCocoaHostEvents::rethrow();
     return response;
 }
