@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 
 // A widget outside the thread of a QApplication would end the host.
@@ -44,8 +46,21 @@ public:
             view->setCursor(Qt::ArrowCursor);
         }
     }
+    // Where an exception has ended the dialog, another one would end the host.
     ~ViewCursor()
     {
+        try {
+            restore();
+        } catch (...) {
+        }
+    }
+    Q_DISABLE_COPY(ViewCursor)
+
+    // The first call does it. The host may throw when it is asked for its document.
+    void restore()
+    {
+        if (std::exchange(m_isRestored, true))
+            return;
         QWidget* const view = activeView();
         if (!view)
             return;
@@ -54,9 +69,9 @@ public:
         else
             view->setCursor(m_saved);
     }
-    Q_DISABLE_COPY(ViewCursor)
 
 private:
+    bool m_isRestored = false;
     QCursor m_saved;
     QPointer<QWidget> m_follower; ///< a view that has its window's cursor
 };
@@ -77,8 +92,10 @@ private:
 
 int runOverView(CVyFileDialogWidget& widget)
 {
-    const ViewCursor cursor;
-    return widget.exec();
+    ViewCursor cursor;
+    const int result = widget.exec();
+    cursor.restore();
+    return result;
 }
 
 } // namespace
@@ -144,14 +161,15 @@ int CVyFileDialogQt::show(unsigned long long parentWindow)
     if (!canShowWidgets())
         return VyStatus::Failed;
     QWidget* parent = QWidget::find(static_cast<WId>(parentWindow));
-    m_widget = new CVyFileDialogWidget(parent, this, m_title, m_defaultFolder, m_qtFilter,
-                                       m_previewAllowed);
+    auto* const widget = new CVyFileDialogWidget(parent, this, m_title, m_defaultFolder, m_qtFilter,
+                                                 m_previewAllowed);
+    m_widget = widget;
     const WidgetOwner owner(m_widget);
     configureWidget();
-    m_widget->addPlaces(VySidebarPlaces::urls(m_defaultFolder));
+    widget->addPlaces(VySidebarPlaces::urls(m_defaultFolder));
 
     // The widget is gone when the host deleted its parent meanwhile.
-    if (runOverView(*m_widget) == QDialog::Rejected || !m_widget)
+    if (runOverView(*widget) == QDialog::Rejected || !m_widget)
         return VyStatus::Cancelled;
     m_results = m_widget->selectedFiles();
     m_selectedFilter = CVyString(m_widget->selectedNameFilter());
@@ -207,9 +225,6 @@ void CVyFileDialogQt::onTypeChange(const QString& filter)
 {
     if (!m_widget)
         return;
-    // When saving, selecting a type rewrites the name's ending by a rule of
-    // QFileDialog's own; ours starts from what was typed.
-    const QString typedName = m_fileNameEdit ? m_fileNameEdit->text() : QString();
     m_widget->selectType(filter);
 
     const QStringList entries = VyFileTypeList::entries(m_qtFilter);
@@ -220,6 +235,7 @@ void CVyFileDialogQt::onTypeChange(const QString& filter)
     const QStringList extensions = VyFileTypeList::splitExtensions(lists.at(type));
     if (!extensions.isEmpty())
         m_widget->setDefaultSuffix(extensions.constFirst());
+    const QString typedName = m_fileNameEdit ? m_fileNameEdit->text() : QString();
     if (!typedName.isEmpty() && !m_widget->selectedFiles().isEmpty())
         m_fileNameEdit->setText(
             VyFileTypeList::nameForType(m_widget->directory(), typedName, extensions));

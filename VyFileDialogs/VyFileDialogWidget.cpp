@@ -29,6 +29,17 @@ QString offeredTypes(const CVyString& qtFilter)
     return QString(qtFilter).split(separator, Qt::SkipEmptyParts).join(separator);
 }
 
+// The selected files as QFileDialog writes them into the name field.
+QString selectedNames(const QListView& list)
+{
+    QStringList names;
+    const QModelIndexList rows = list.selectionModel()->selectedRows();
+    for (const QModelIndex& row : rows)
+        names.append(row.data().toString());
+    const QString joined = names.join(QLatin1String("\" \""));
+    return names.size() > 1 ? QLatin1Char('"') + joined + QLatin1Char('"') : joined;
+}
+
 } // namespace
 
 CVyFileDialogWidget::CVyFileDialogWidget(QWidget* parent, CVyFileDialogQt* owner, CVyString& title,
@@ -75,7 +86,7 @@ int CVyFileDialogWidget::exec()
 {
     const QPointer<CVyFileDialogWidget> guard(this);
     QEventLoop loop;
-    m_loop = &loop;
+    m_loop = &loop; // cppcheck-suppress danglingLifetime ; it is a QPointer
     setAttribute(Qt::WA_ShowModal);
     setResult(QDialog::Rejected);
     show();
@@ -131,8 +142,7 @@ void CVyFileDialogWidget::selectType(const QString& filter)
 {
     auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     const int index = types ? types->findText(filter) : -1;
-    // When saving, QFileDialog also gives the typed name the type's ending.
-    if (!m_list || acceptMode() == QFileDialog::AcceptSave)
+    if (!m_list)
         selectNameFilter(filter);
     else if (index >= 0) {
         types->setCurrentIndex(index);
@@ -142,12 +152,15 @@ void CVyFileDialogWidget::selectType(const QString& filter)
 
 // Selects in the list what the user types. QFileDialog's own way takes a file that
 // is both typed and selected already for one that is no longer typed, if there is
-// a proxy model; so nothing is selected beforehand.
+// a proxy model; so nothing is selected beforehand. And it asks the disk for every file,
+// which may hold the dialog up, also when the name comes from the list.
 void CVyFileDialogWidget::selectTyped(const QString& names)
 {
     const auto* list = findChild<QListView*>(QStringLiteral("listView"));
     if (list && focusWidget() == sender())
         list->selectionModel()->clearSelection();
+    else if (list && names == selectedNames(*list))
+        return;
     QMetaObject::invokeMethod(this, "_q_autoCompleteFileName", Q_ARG(QString, names));
 }
 

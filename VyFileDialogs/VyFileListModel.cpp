@@ -5,6 +5,18 @@
 
 #include <algorithm>
 
+namespace {
+
+// The place of a row of the source among the rows that are listed.
+template <class Rows>
+auto rowFrom(Rows& rows, int row)
+{
+    return std::lower_bound(rows.begin(), rows.end(), row,
+                            [](const auto& each, int wanted) { return each.row < wanted; });
+}
+
+} // namespace
+
 CVyFileListModel::CVyFileListModel(QObject* parent)
     : QAbstractProxyModel(parent)
 {}
@@ -48,7 +60,9 @@ void CVyFileListModel::setNameFilters(const QStringList& patterns)
 // by them, it announces a change of layout.
 void CVyFileListModel::adoptNameFilters()
 {
-    const QStringList patterns = m_files ? m_files->nameFilters() : QStringList();
+    if (!m_files)
+        return;
+    const QStringList patterns = m_files->nameFilters();
     if (patterns.isEmpty())
         return;
     m_files->setNameFilters({});
@@ -109,13 +123,17 @@ QVariant CVyFileListModel::headerData(int section, Qt::Orientation orientation, 
     return m_files ? m_files->headerData(section, orientation, role) : QVariant();
 }
 
+// A dialog that an exception leaves while it changes models hands over the index of
+// another one when it goes.
 QModelIndex CVyFileListModel::mapToSource(const QModelIndex& index) const
 {
-    if (!index.isValid() || !m_files)
+    if (index.model() != this || !m_files)
         return {};
     const auto* parentFolder = static_cast<const Folder*>(index.internalPointer());
-    return m_files->index(parentFolder->rows[static_cast<std::size_t>(index.row())], index.column(),
-                          parentFolder->index);
+    const Row& listed = parentFolder->rows[static_cast<std::size_t>(index.row())];
+    if (listed.index.row() != listed.row)
+        listed.index = m_files->index(listed.row, 0, parentFolder->index);
+    return listed.index.sibling(listed.row, index.column());
 }
 
 QModelIndex CVyFileListModel::mapFromSource(const QModelIndex& index) const
@@ -123,9 +141,8 @@ QModelIndex CVyFileListModel::mapFromSource(const QModelIndex& index) const
     if (!index.isValid() || !m_files)
         return {};
     Folder& parentFolder = folder(index.parent());
-    const auto row =
-        std::lower_bound(parentFolder.rows.begin(), parentFolder.rows.end(), index.row());
-    if (row == parentFolder.rows.end() || *row != index.row())
+    const auto row = rowFrom(parentFolder.rows, index.row());
+    if (row == parentFolder.rows.end() || row->row != index.row())
         return {};
     return createIndex(static_cast<int>(row - parentFolder.rows.begin()), index.column(),
                        &parentFolder);
@@ -147,20 +164,19 @@ CVyFileListModel::Folder& CVyFileListModel::folder(const QModelIndex& sourcePare
     return *added;
 }
 
-bool CVyFileListModel::isListed(int row, const QModelIndex& sourceParent) const
+bool CVyFileListModel::isListed(const QModelIndex& source) const
 {
-    const QModelIndex index = m_files->index(row, 0, sourceParent);
-    return m_matcher.matches(m_files->fileName(index)) || m_files->isDir(index);
+    return m_matcher.matches(m_files->fileName(source)) || m_files->isDir(source);
 }
 
-std::vector<int> CVyFileListModel::listedRows(int first, int last,
-                                              const QModelIndex& sourceParent) const
+std::vector<CVyFileListModel::Row>
+CVyFileListModel::listedRows(int first, int last, const QModelIndex& sourceParent) const
 {
-    std::vector<int> rows;
-    rows.reserve(static_cast<std::size_t>(std::max(0, last - first + 1)));
+    std::vector<Row> rows;
     for (int row = first; row <= last; ++row) {
-        if (isListed(row, sourceParent))
-            rows.push_back(row);
+        const QModelIndex source = m_files->index(row, 0, sourceParent);
+        if (isListed(source))
+            rows.push_back({row, source});
     }
     return rows;
 }
@@ -170,9 +186,9 @@ void CVyFileListModel::onRowsInserted(const QModelIndex& parent, int first, int 
     Folder* known = knownFolder(parent);
     if (!known)
         return;
-    const auto at = std::lower_bound(known->rows.begin(), known->rows.end(), first);
-    std::for_each(at, known->rows.end(), [&](int& row) { row += last - first + 1; });
-    const std::vector<int> listed = listedRows(first, last, parent);
+    const auto at = rowFrom(known->rows, first);
+    std::for_each(at, known->rows.end(), [&](Row& each) { each.row += last - first + 1; });
+    const std::vector<Row> listed = listedRows(first, last, parent);
     if (listed.empty())
         return;
     const int row = static_cast<int>(at - known->rows.begin());
@@ -186,8 +202,8 @@ void CVyFileListModel::onRowsAboutToBeRemoved(const QModelIndex& parent, int fir
     const Folder* known = knownFolder(parent);
     if (!known)
         return;
-    const auto from = std::lower_bound(known->rows.begin(), known->rows.end(), first);
-    const auto to = std::upper_bound(from, known->rows.end(), last);
+    const auto from = rowFrom(known->rows, first);
+    const auto to = rowFrom(known->rows, last + 1);
     m_isRemoving = from != to;
     if (m_isRemoving)
         beginRemoveRows(mapFromSource(parent), static_cast<int>(from - known->rows.begin()),
@@ -197,10 +213,9 @@ void CVyFileListModel::onRowsAboutToBeRemoved(const QModelIndex& parent, int fir
 void CVyFileListModel::onRowsRemoved(const QModelIndex& parent, int first, int last)
 {
     if (Folder* known = knownFolder(parent)) {
-        const auto from = std::lower_bound(known->rows.begin(), known->rows.end(), first);
-        const auto to = std::upper_bound(from, known->rows.end(), last);
-        const auto behind = known->rows.erase(from, to);
-        std::for_each(behind, known->rows.end(), [&](int& row) { row -= last - first + 1; });
+        const auto behind =
+            known->rows.erase(rowFrom(known->rows, first), rowFrom(known->rows, last + 1));
+        std::for_each(behind, known->rows.end(), [&](Row& each) { each.row -= last - first + 1; });
     }
     if (m_isRemoving)
         endRemoveRows();
@@ -216,16 +231,17 @@ void CVyFileListModel::onDataChanged(const QModelIndex& topLeft, const QModelInd
     const Folder* known = knownFolder(parent);
     if (!known)
         return;
-    const auto from = std::lower_bound(known->rows.begin(), known->rows.end(), topLeft.row());
-    const auto to = std::upper_bound(from, known->rows.end(), bottomRight.row());
-    const std::vector<int> listed = listedRows(topLeft.row(), bottomRight.row(), parent);
-    if (!std::equal(from, to, listed.begin(), listed.end())) {
+    const auto from = rowFrom(known->rows, topLeft.row());
+    const auto to = rowFrom(known->rows, bottomRight.row() + 1);
+    const std::vector<Row> listed = listedRows(topLeft.row(), bottomRight.row(), parent);
+    const auto isSame = [](const Row& one, const Row& other) { return one.row == other.row; };
+    if (!std::equal(from, to, listed.begin(), listed.end(), isSame)) {
         beginLayoutChange();
         endLayoutChange();
     } else if (from != to) {
-        Q_EMIT dataChanged(mapFromSource(m_files->index(*from, topLeft.column(), parent)),
-                           mapFromSource(m_files->index(*(to - 1), bottomRight.column(), parent)),
-                           roles);
+        Q_EMIT dataChanged(
+            mapFromSource(m_files->index(from->row, topLeft.column(), parent)),
+            mapFromSource(m_files->index((to - 1)->row, bottomRight.column(), parent)), roles);
     }
 }
 

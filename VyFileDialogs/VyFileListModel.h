@@ -46,18 +46,27 @@ public:
     QModelIndex mapFromSource(const QModelIndex& index) const override;
 
 private:
+    /// A row of the source that is listed.
+    struct Row
+    {
+        int row;
+        /// What the source says it is, which it looks up by name; asked again when
+        /// the row has moved.
+        mutable QModelIndex index;
+    };
+
     /// The rows of one folder, as far as somebody has asked for them.
     struct Folder
     {
         QPersistentModelIndex index; ///< the source's; invalid for its top
         QPersistentModelIndex self;  ///< this model's
-        std::vector<int> rows;       ///< the source's rows that are listed, ascending
+        std::vector<Row> rows;       ///< ascending
     };
 
     Folder& folder(const QModelIndex& sourceParent) const;
     Folder* knownFolder(const QModelIndex& sourceParent) const;
-    bool isListed(int row, const QModelIndex& sourceParent) const;
-    std::vector<int> listedRows(int first, int last, const QModelIndex& sourceParent) const;
+    bool isListed(const QModelIndex& source) const;
+    std::vector<Row> listedRows(int first, int last, const QModelIndex& sourceParent) const;
     void adoptNameFilters();
     void beginLayoutChange();
     void endLayoutChange();
