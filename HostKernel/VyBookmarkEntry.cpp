@@ -32,7 +32,7 @@ QByteArray vyNativePath(const VyBookmark& bookmark)
 {
     if (!bookmark.bytes.isEmpty())
         return bookmark.bytes;
-    const QByteArray bytes = QFile::encodeName(bookmark.path);
+    QByteArray bytes = QFile::encodeName(bookmark.path);
     // macOS composes and decomposes accents on the way.
     const auto form = QString::NormalizationForm_C;
     if (QFile::decodeName(bytes).normalized(form) != bookmark.path.normalized(form))

@@ -9,8 +9,8 @@
 namespace VyBookmarkFormat {
 
 constexpr int version = 1;
-constexpr qint64 mostFileBytes = 16 * 1024 * 1024; ///< more than 100 longest lines
-constexpr int mostLineBytes = 128 * 1024;          ///< more than the longest entry has
+constexpr qint64 mostFileBytes = 16LL * 1024 * 1024; ///< more than 100 longest lines
+constexpr int mostLineBytes = 128 * 1024;            ///< more than the longest entry has
 constexpr int mostLines = 1000;
 
 struct Contents

@@ -218,7 +218,7 @@ void CVyBookmarkList::put(const VyBookmarkEntry& entry)
 // ends with the year 9999.
 QDateTime CVyBookmarkList::timeOfChoice() const
 {
-    const QDateTime now = QDateTime::currentDateTimeUtc();
+    QDateTime now = QDateTime::currentDateTimeUtc();
     if (m_entries.isEmpty())
         return now;
     const QDateTime last({9999, 12, 31}, {23, 59, 59, 999}, Qt::UTC);

@@ -18,7 +18,7 @@ public:
 
     /// The widget whose cursor the dialogs save and restore; null when there is
     /// none or it has been deleted.
-    QWidget* GetViewWidget() const { return m_view; }
+    QWidget* GetViewWidget() const { return m_view.data(); }
 
 private:
     Q_DISABLE_COPY(CVyDocument)

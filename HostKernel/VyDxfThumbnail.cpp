@@ -234,7 +234,7 @@ public:
     Way wayFrom(qint64 groups) const { return Way(SectionWalk(m_data - groups * m_period)); }
 
 private:
-    static constexpr qint64 firstStep = 16 * 1024;
+    static constexpr qint64 firstStep = 16LL * 1024;
 
     bool isSimilar(qint64 groups) const
     {

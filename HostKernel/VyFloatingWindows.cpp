@@ -30,7 +30,7 @@ public:
         window->installEventFilter(this);
     }
 
-    QWidget* window() const { return m_window; }
+    QWidget* window() const { return m_window.data(); }
     const VyWindowManager::Notes& notes() const { return m_notes; }
     bool isLeftToHost() const
     {
@@ -70,8 +70,10 @@ private:
 
 using HiddenWindows = std::vector<std::shared_ptr<HiddenWindow>>;
 
-HiddenWindows s_hidden;
-VyWindowManager::Order s_order; // of the windows on screen and the hidden ones
+// Both are empty at start-up and cost nothing then.
+HiddenWindows s_hidden; // clazy:exclude=non-pod-global-static
+// Of the windows on screen and the hidden ones.
+VyWindowManager::Order s_order; // clazy:exclude=non-pod-global-static
 
 bool hasWindows()
 {
@@ -202,7 +204,7 @@ VyFloatingWindows HideFloatingWindows()
 {
     if (!hasWindows())
         return {};
-    const auto token = std::make_shared<VyFloatingWindowsHold>();
+    auto token = std::make_shared<VyFloatingWindowsHold>();
     forgetThoseLeftToHost();
     s_order = VyWindowManager::merged(s_order, VyWindowManager::current());
     for (const auto& hidden : s_hidden)

@@ -9,7 +9,7 @@ namespace VyHostSettings {
 
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024;
+constexpr qint64 largestFile = 64LL * 1024;
 
 struct Name
 {
@@ -44,7 +44,7 @@ std::optional<Setting> inEnvironment(const char* variable)
 // file can block until somebody writes.
 QString settingsFile()
 {
-    const QString path =
+    QString path =
         QStandardPaths::locate(QStandardPaths::AppConfigLocation, QStringLiteral("settings.ini"));
     if (path.isEmpty() || QFileInfo(path).size() <= largestFile)
         return path;

@@ -54,6 +54,8 @@ CVyString::operator QString() const
     QString result;
     result.reserve(getLength());
     for (const wchar_t character : m_text) {
+        // The check takes every signed character type for one of eight bits.
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse)
         const uint codePoint = static_cast<uint>(character);
         if (codePoint > QChar::LastValidCodePoint) {
             result += QChar(QChar::ReplacementCharacter);

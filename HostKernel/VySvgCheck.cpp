@@ -56,7 +56,8 @@ Kind kindOf(const QString& name)
             {Kind::Style, "style"}};
         QHash<QString, Kind> result;
         for (const auto& [kind, names] : lists) {
-            for (const QString& each : QString::fromLatin1(names).split(QLatin1Char(' ')))
+            const QStringList all = QString::fromLatin1(names).split(QLatin1Char(' '));
+            for (const QString& each : all)
                 result.insert(each, kind);
         }
         return result;

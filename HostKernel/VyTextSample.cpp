@@ -66,7 +66,7 @@ const QTextCodec* codecOf(const CVyCodePage& page)
 // Composed, since few fonts place accents well that stand apart.
 QString shown(const QString& decoded)
 {
-    const QString line = singleLine(decoded.normalized(QString::NormalizationForm_C));
+    QString line = singleLine(decoded.normalized(QString::NormalizationForm_C));
     if (line.size() <= longestLine)
         return line;
     const bool cutsPair = line.at(longestLine - 1).isHighSurrogate();

@@ -89,7 +89,8 @@ Order current()
     if (!QX11Info::isPlatformX11())
         return creationOrder();
     Order order;
-    for (const quint32 id : property(root(), "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW))
+    const auto windows = property(root(), "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
+    for (const quint32 id : windows)
         order.append(id);
     return order.isEmpty() ? creationOrder() : order;
 }

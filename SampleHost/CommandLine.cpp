@@ -156,7 +156,8 @@ QString readStyle(const QCommandLineParser& parser, Options& options)
 // what follows the first "." of a pattern, up to the first pattern without one.
 bool hasExtension(const QString& patterns)
 {
-    for (const QString& pattern : patterns.split(QLatin1Char(';'))) {
+    const QStringList all = patterns.split(QLatin1Char(';'));
+    for (const QString& pattern : all) {
         const int dot = pattern.indexOf(QLatin1Char('.'));
         if (dot < 0)
             return false;

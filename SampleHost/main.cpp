@@ -92,10 +92,11 @@ ExitStatus askAndPrint(const Options& options)
     int count = 1;
     starting = true;
     // Never deleted: the process ends with the answer, see main().
-    [[maybe_unused]] const auto* application = new QApplication(count, arguments);
+    [[maybe_unused]] static const auto* application = new QApplication(count, arguments);
     starting = false;
     startMessages.clear();
-    for (const QString& warning : warnings(options))
+    const QStringList allWarnings = warnings(options);
+    for (const QString& warning : allWarnings)
         say(QLatin1String("warning: ") + warning);
     std::unique_ptr<TransientParent> parent;
     if (options.parentWindow)

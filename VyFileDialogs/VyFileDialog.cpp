@@ -13,6 +13,8 @@
 #include <QFileInfo>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 CVyFileDialog::_Style CVyFileDialog::s_Style;
 CVyFileDialog::_Style CVyFileDialog::s_StyleTmp;
@@ -79,13 +81,13 @@ void writeMode(const Request& request, CVyFileDialogImpl& impl)
 // Gives a path to be saved the extension of its type. The suffix is compared
 // with the type's whole extension list, and the whole list is appended: a type
 // with several extensions asks for all of them on purpose.
-void completeExtension(CVyString& path, const Request& request)
+void completeExtension(CVyString& path, const CVyString& filter, int type)
 {
-    if (!request.typeIndex || *request.typeIndex < 0)
+    if (type < 0)
         return;
     const std::vector<CVyString> lists =
-        VyFileTypeList::extensionLists(CVyUtils::ConvertToQtFilter(request.filter));
-    const auto position = static_cast<std::size_t>(*request.typeIndex);
+        VyFileTypeList::extensionLists(CVyUtils::ConvertToQtFilter(filter));
+    const auto position = static_cast<std::size_t>(type);
     if (position >= lists.size())
         return;
     const CVyString& extensions = lists[position];
@@ -94,15 +96,23 @@ void completeExtension(CVyString& path, const Request& request)
         path = path + L"." + extensions;
 }
 
+// What follows once the paths of an accepted dialog are read. It is kept apart
+// until all is known, so that an exception leaves the caller's outputs as they
+// were.
+struct Rest
+{
+    std::optional<CVyUserIO::_FileNameRetVal> mode;
+    std::optional<OdCodePageId*> codePage;
+};
+
 // The second dialog of "Open with Encoding...". Cancelling it does not undo
 // the first.
-void askEncoding(const CVyString& fileName, const Request& request)
+void askEncoding(const CVyString& fileName, Rest& rest)
 {
     CVyDlgEncoding dialog(nullptr, fileName);
-    if (dialog.exec() == QDialog::Accepted && request.codePage)
-        *request.codePage = dialog.GetCodepage();
-    if (request.mode)
-        *request.mode = dialog.IsReadOnly() ? CVyUserIO::OpenReadOnly : CVyUserIO::Open;
+    if (dialog.exec() == QDialog::Accepted)
+        rest.codePage = dialog.GetCodepage();
+    rest.mode = dialog.IsReadOnly() ? CVyUserIO::OpenReadOnly : CVyUserIO::Open;
 }
 
 // The name that the encoding dialog shows.
@@ -113,14 +123,28 @@ CVyString encodingTitle(const std::vector<CVyString>& paths)
     return paths.empty() ? CVyString() : paths.front();
 }
 
-// What follows once the paths of an accepted dialog are read.
-void readRest(const Request& request, CVyFileDialogImpl& impl, const CVyString& fileName)
+Rest readRest(const Request& request, CVyFileDialogImpl& impl, const CVyString& fileName)
 {
+    Rest rest;
     if (request.templateName)
         impl.getTemplateName(request.templateName);
-    writeMode(request, impl);
+    if (request.mode) {
+        CVyUserIO::_FileNameRetVal mode{}; // none
+        CVyFileDialog::GetMode(mode, request.type, &impl);
+        if (mode)
+            rest.mode = mode;
+    }
     if (impl.getOpenMode() == OpenWithEncoding)
-        askEncoding(fileName, request);
+        askEncoding(fileName, rest);
+    return rest;
+}
+
+void write(const Rest& rest, const Request& request) noexcept
+{
+    if (request.mode && rest.mode)
+        *request.mode = *rest.mode;
+    if (request.codePage && rest.codePage)
+        *request.codePage = *rest.codePage;
 }
 
 } // namespace
@@ -193,12 +217,19 @@ int CVyFileDialog::GetFileName(CVyUserIO::_FileNameRetVal* mode, CVyString* path
         writeMode(request, *impl);
         return status;
     }
-    const bool chosen = impl->getResult(path) == VyStatus::Accepted;
+    CVyString chosen = *path;
+    int chosenType = typeIndex ? *typeIndex : -1;
+    const bool isChosen = impl->getResult(&chosen) == VyStatus::Accepted;
     if (typeIndex)
-        impl->getFileTypeIndex(typeIndex);
-    if (chosen && type == CVyUserIO::FileNameSave)
-        completeExtension(*path, request);
-    readRest(request, *impl, *path);
+        impl->getFileTypeIndex(&chosenType);
+    if (isChosen && type == CVyUserIO::FileNameSave)
+        completeExtension(chosen, filter, chosenType);
+    const Rest rest = readRest(request, *impl, chosen);
+
+    *path = std::move(chosen);
+    if (typeIndex)
+        *typeIndex = chosenType;
+    write(rest, request);
     return status;
 }
 
@@ -224,9 +255,16 @@ int CVyFileDialog::GetFileNames(CVyUserIO::_FileNameRetVal* mode, std::vector<CV
         writeMode(request, *impl);
         return status;
     }
-    const int result = impl->getResults(paths);
+    std::vector<CVyString> chosen = *paths;
+    int chosenType = typeIndex ? *typeIndex : -1;
+    const int result = impl->getResults(&chosen);
     if (typeIndex)
-        impl->getFileTypeIndex(typeIndex);
-    readRest(request, *impl, encodingTitle(*paths));
+        impl->getFileTypeIndex(&chosenType);
+    const Rest rest = readRest(request, *impl, encodingTitle(chosen));
+
+    paths->swap(chosen);
+    if (typeIndex)
+        *typeIndex = chosenType;
+    write(rest, request);
     return result;
 }

@@ -81,7 +81,8 @@ public:
     ///
     /// The process's working directory is afterwards what it was before. An
     /// exception thrown by the host's own code while the dialog is up passes
-    /// through, with everything released; Qt warns about it on the log.
+    /// through, with everything released and no output written; so does
+    /// std::bad_alloc. Qt warns about either on the log.
     VY_FILEDIALOGS_EXPORT static int
     GetFileName(CVyUserIO::_FileNameRetVal* mode, CVyString* path, unsigned long long parentWindow,
                 CVyUserIO::_FileNameType type, const CVyString& title,

@@ -17,12 +17,12 @@ void CVyFileDialogMacMacNativeBase::GetFileNames(QStringList& fileNames) const
 
 void CVyFileDialogMacMacNativeBase::SetListFilter(QStringList descriptions)
 {
-    m_private->SetListFilter(std::move(descriptions));
+    m_private->SetListFilter(descriptions);
 }
 
 void CVyFileDialogMacMacNativeBase::SetListFilterFileExt(QStringList extensionLists)
 {
-    m_private->SetListFilterFileExt(std::move(extensionLists));
+    m_private->SetListFilterFileExt(extensionLists);
 }
 
 void CVyFileDialogMacMacNativeBase::SetDirectory(QString folder)

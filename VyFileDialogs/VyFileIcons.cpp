@@ -37,7 +37,7 @@ QIcon CVyFileIcons::icon(const QFileInfo& info) const
     const auto known = m_icons.constFind(suffix);
     if (known != m_icons.constEnd())
         return *known;
-    const QIcon icon = m_provider.icon(info);
+    QIcon icon = m_provider.icon(info);
     if (icon.cacheKey() == m_provider.icon(File).cacheKey())
         m_icons.insert(suffix, icon);
     return icon;

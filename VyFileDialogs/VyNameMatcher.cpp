@@ -17,6 +17,19 @@ bool isEnding(const QString& pattern)
            std::all_of(pattern.begin() + 1, pattern.end(), isPlain);
 }
 
+// Qt's expression tries every length for every "*", which takes longer than anybody
+// waits where there are many. What stands between two of them may as well be where it
+// is first found: an atomic group does not try again.
+QString inOneGo(const QString& expression)
+{
+    const QString star = QStringLiteral("[^/]*");
+    QStringList parts = expression.split(star);
+    for (int i = 1; i < parts.size() - 1; ++i)
+        parts[i] = "(?>" + star + '?' + parts.at(i) + ')';
+    const QString last = parts.size() > 1 ? star + parts.takeLast() : QString();
+    return parts.join(QString()) + last;
+}
+
 } // namespace
 
 CVyNameMatcher::CVyNameMatcher(const QStringList& patterns, Qt::CaseSensitivity sensitivity)
@@ -36,8 +49,8 @@ void CVyNameMatcher::add(const QString& pattern)
     const QRegularExpression::PatternOptions options =
         m_sensitivity == Qt::CaseSensitive ? QRegularExpression::NoPatternOption
                                            : QRegularExpression::CaseInsensitiveOption;
-    const QRegularExpression expression(QRegularExpression::wildcardToRegularExpression(pattern),
-                                        options);
+    const QRegularExpression expression(
+        inOneGo(QRegularExpression::wildcardToRegularExpression(pattern)), options);
     if (expression.isValid()) // one that is not, as of "[", matches nothing
         m_expressions.push_back(expression);
 }

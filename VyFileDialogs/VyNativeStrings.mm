@@ -28,7 +28,7 @@ QString qStringfromNSString(NSString* string)
     }
     auto* buffer = static_cast<unichar*>(std::malloc(length * sizeof(unichar)));
     Q_CHECK_PTR(buffer);
-    const QString result = copyCharacters(string, buffer, length);
+    QString result = copyCharacters(string, buffer, length);
     std::free(buffer);
     return result;
 }

@@ -27,7 +27,8 @@ int staying(const QStringList& names, const QStringList& parts)
 QString folderOf(const QStringList& names, int index)
 {
     QString path;
-    for (const QString& name : names.mid(0, index + 1)) {
+    const QStringList way = names.mid(0, index + 1);
+    for (const QString& name : way) {
         if (name != QLatin1String("/"))
             path += QLatin1Char('/') + name;
     }

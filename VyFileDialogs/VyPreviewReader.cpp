@@ -6,6 +6,8 @@
 #include <QRunnable>
 #include <QThreadPool>
 
+#include <new>
+
 namespace {
 
 // Longer than the pause between two repetitions of a key that is held down, and
@@ -98,20 +100,23 @@ void CVyPreviewReader::cancel()
     m_waiting.clear();
 }
 
+// Nothing may leave it into the event loop; what memory is too short for is no preview.
 void CVyPreviewReader::start()
-{
+try {
     if (m_waiting.isEmpty())
         return;
-    auto* job = new CVyPreviewJob(m_waiting, m_newest);
+    auto job = std::make_unique<CVyPreviewJob>(m_waiting, m_newest);
     m_waiting.clear();
     connect(
-        job, &CVyPreviewJob::done, this,
+        job.get(), &CVyPreviewJob::done, this,
         [this](int number, const QImage& image) {
             if (number == *m_newest)
                 Q_EMIT found(image);
         },
         Qt::QueuedConnection);
-    threads().start(job);
+    QThreadPool& pool = threads();
+    pool.start(job.release());
+} catch (const std::bad_alloc&) {
 }
 
 #include "VyPreviewReader.moc"

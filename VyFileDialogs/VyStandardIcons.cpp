@@ -9,11 +9,14 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <new>
+
 namespace {
 
 // A standard icon that reads its smallest picture, which is what a style's
-// standardPixmap() answers, and all of them only for one of another size.
-class StandardIcon : public QIconEngine
+// standardPixmap() answers, and all of them only for one of another size. Only
+// clone() copies it.
+class StandardIcon : public QIconEngine // clazy:exclude=copyable-polymorphic
 {
 public:
     explicit StandardIcon(QStyle::StandardPixmap name)
@@ -85,9 +88,10 @@ public:
     QIcon standardIcon(StandardPixmap name, const QStyleOption* option,
                        const QWidget* widget) const override
     {
-        if (option)
-            return QApplication::style()->standardIcon(name, option, widget);
-        return QIcon(new StandardIcon(name));
+        // An exception that left the constructor of Qt's dialog would leave events for
+        // the dialog that does not come to be.
+        auto* const engine = option ? nullptr : new (std::nothrow) StandardIcon(name);
+        return engine ? QIcon(engine) : QApplication::style()->standardIcon(name, option, widget);
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option,

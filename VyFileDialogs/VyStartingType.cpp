@@ -37,7 +37,7 @@ VyStartingType VyStartingType::forOpen(const QStringList& descriptions,
 
     for (const int index :
          {extensionLists.indexOf(wanted), indexWithExtension(extensionLists, wanted)}) {
-        const VyStartingType type = typeAt(descriptions, extensionLists, index);
+        VyStartingType type = typeAt(descriptions, extensionLists, index);
         if (!type.description.isEmpty())
             return type;
     }
