@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 # What every target of this project has in common.
+include(${CMAKE_CURRENT_LIST_DIR}/VyHardening.cmake)
 
 # vy_target(<name>): language level, warnings, hidden symbols, moc, and the
 # instrumentation that the cache asks for.
@@ -30,6 +31,13 @@ function(vy_target name)
             -fsanitize=${VY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${name} PRIVATE -fsanitize=${VY_SANITIZERS})
     endif()
+endfunction()
+
+# vy_product(<name>): a target that users get. The checks of sources look at these alone.
+function(vy_product name)
+    vy_target(${name})
+    vy_harden(${name})
+    set_target_properties(${name} PROPERTIES EXPORT_COMPILE_COMMANDS ON)
 endfunction()
 
 # vy_shared_library(<name>): versioned, and complete in itself.
