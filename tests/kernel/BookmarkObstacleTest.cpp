@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Where the list cannot be written: it goes on in memory, and nothing is lost.
 #include "BookmarkTest.h"
+#include "FullDisk.h"
 #include "PlainUser.h"
 
 #include <QLockFile>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -16,31 +14,6 @@ QString numbered(int number)
 {
     return QStringLiteral("/plans/%1.dwg").arg(number);
 }
-
-// No file of the process grows beyond it while this lives, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = m_limit;
-        limit.rlim_cur = bytes;
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            qFatal("no limit");
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(FullDisk)
-
-private:
-    rlimit m_limit = {};
-    void (*m_handler)(int) = nullptr;
-};
 
 } // namespace
 

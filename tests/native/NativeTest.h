@@ -28,7 +28,8 @@ protected:
     static int run(HostRequest& request, std::vector<PanelDriver::Step> steps);
     static int runSeveral(HostRequest& request, std::vector<PanelDriver::Step> steps);
 
-private Q_SLOTS:
+protected Q_SLOTS:
+    // A fixture with its own of these calls them.
     void initTestCase();
     void init();
     void cleanup();

@@ -36,21 +36,6 @@ NSOpenPanel* openPanel(NSSavePanel* panel)
     return [panel isKindOfClass:[NSOpenPanel class]] ? static_cast<NSOpenPanel*>(panel) : nil;
 }
 
-PanelDriver::Step click(const QStringList& names)
-{
-    return onPanel([names](NSSavePanel* panel) { selectNames(panel, names); });
-}
-
-PanelDriver::Step chooseType(NSInteger index)
-{
-    return onPanel([index](NSSavePanel* panel) { choose(types(panel), index); });
-}
-
-PanelDriver::Step sees(const QStringList& names)
-{
-    return onPanel([names](NSSavePanel* panel) { QCOMPARE(shownNames(panel), names); });
-}
-
 QRectF frame(NSView* view)
 {
     const NSRect r = [view frame];

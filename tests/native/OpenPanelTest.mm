@@ -32,24 +32,9 @@ QStringList bookmarkedPaths()
     return paths;
 }
 
-PanelDriver::Step click(const QStringList& names)
-{
-    return onPanel([names](NSSavePanel* panel) { selectNames(panel, names); });
-}
-
 PanelDriver::Step chooseMode(NSInteger index)
 {
     return onPanel([index](NSSavePanel* panel) { choose(modes(panel), index); });
-}
-
-PanelDriver::Step chooseType(NSInteger index)
-{
-    return onPanel([index](NSSavePanel* panel) { choose(types(panel), index); });
-}
-
-PanelDriver::Step sees(const QStringList& names)
-{
-    return onPanel([names](NSSavePanel* panel) { QCOMPARE(shownNames(panel), names); });
 }
 
 // Works the encoding dialog: its page, its check box, and Ok or Cancel.

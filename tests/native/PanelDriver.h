@@ -48,8 +48,9 @@ PanelDriver::Step onPanel(std::function<void(NSSavePanel*)> work);
 PanelDriver::Step accept();
 PanelDriver::Step cancel();
 
-/// A step that presses the button with that number of an alert: 0 for the first.
-PanelDriver::Step answerAlert(NSInteger button);
+/// A step that presses the button with that tag (NSAlertDefaultReturn for the
+/// first) of an alert that mentions \a word.
+PanelDriver::Step answerAlert(NSInteger tag, const QString& word);
 
 /// The panel's accessory view.
 CVyViewFilterMacNative* accessoryView(NSSavePanel* panel);
@@ -71,6 +72,14 @@ bool canEnter(NSSavePanel* panel, const QString& name);
 
 /// Selects the names in the last column, as clicks do.
 void selectNames(NSSavePanel* panel, const QStringList& names);
+
+/// Steps for the panel: choose the file type with that index, or names in the last
+/// column, as clicks do; fill the name field; fail the test unless the names are
+/// those that are shown.
+PanelDriver::Step chooseType(NSInteger index);
+PanelDriver::Step click(const QStringList& names);
+PanelDriver::Step typeName(const QString& name);
+PanelDriver::Step sees(const QStringList& names);
 
 /// Text of a platform string, and a list of them.
 QString text(NSString* string);

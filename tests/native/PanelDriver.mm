@@ -49,6 +49,18 @@ NSMatrix* lastColumn(NSSavePanel* panel)
     return [files matrixInColumn:[files lastColumn]];
 }
 
+// What is written in the view, and its button with that tag.
+void readAlert(NSView* view, NSInteger tag, QString& words, NSButton*& button)
+{
+    for (NSView* child in [view subviews]) {
+        readAlert(child, tag, words, button);
+        if ([child isKindOfClass:[NSTextField class]])
+            words += text([static_cast<NSTextField*>(child) stringValue]) + " ";
+        if ([child isKindOfClass:[NSButton class]] && [child tag] == tag)
+            button = static_cast<NSButton*>(child);
+    }
+}
+
 } // namespace
 
 @interface VyDriverTarget : NSObject {
@@ -137,16 +149,16 @@ PanelDriver::Step cancel()
     });
 }
 
-PanelDriver::Step answerAlert(NSInteger button)
+PanelDriver::Step answerAlert(NSInteger tag, const QString& word)
 {
-    return [button](NSWindow* window) {
-        if ([window isKindOfClass:[NSSavePanel class]]) {
-            QTest::qFail("no alert came", __FILE__, __LINE__);
-            return;
-        }
-        const NSInteger answers[] = {NSAlertDefaultReturn, NSAlertAlternateReturn,
-                                     NSAlertOtherReturn};
-        [NSApp stopModalWithCode:answers[button]];
+    return [=](NSWindow* window) {
+        QVERIFY2(![window isKindOfClass:[NSSavePanel class]], "no alert came");
+        QString words;
+        NSButton* button = nil;
+        readAlert([window contentView], tag, words, button);
+        QVERIFY(button);
+        QVERIFY2(words.contains(word), qPrintable(words));
+        [NSApp sendAction:[button action] to:[button target] from:button];
     };
 }
 
@@ -217,6 +229,28 @@ void selectNames(NSSavePanel* panel, const QStringList& names)
     }
     NSBrowser* const files = browser([panel contentView]);
     [files sendAction:[files action] to:[files target]];
+}
+
+PanelDriver::Step chooseType(NSInteger index)
+{
+    return onPanel(
+        [index](NSSavePanel* panel) { choose(popup(panel, @selector(filterChanged:)), index); });
+}
+
+PanelDriver::Step click(const QStringList& names)
+{
+    return onPanel([names](NSSavePanel* panel) { selectNames(panel, names); });
+}
+
+PanelDriver::Step typeName(const QString& name)
+{
+    return onPanel(
+        [name](NSSavePanel* panel) { [panel setNameFieldStringValue:nsStringFromQString(name)]; });
+}
+
+PanelDriver::Step sees(const QStringList& names)
+{
+    return onPanel([names](NSSavePanel* panel) { QCOMPARE(shownNames(panel), names); });
 }
 
 QString text(NSString* string)

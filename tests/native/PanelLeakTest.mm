@@ -2,6 +2,7 @@
 // A host shows panels all day: a hundred of them leave nothing behind but the
 // shared save panel.
 #include "NativeTest.h"
+#include "PanelHoldings.h"
 
 #include "NSOpenPanelExt.h"
 #include "VyFileDialogMacNewMacNative.h"
@@ -12,143 +13,7 @@
 #include "VyFileDialogMacSaveMacNativePrivate.h"
 #include "VyNSOpenSavePanelDelegate.h"
 
-#import <objc/runtime.h>
-
-#include <QProcess>
-
-#include <map>
-
-// Where QtCore calls who watches its objects come and go: a tool, as a rule.
-extern quintptr Q_CORE_EXPORT qtHookData[];
-
 namespace {
-
-constexpr int addObjectHook = 3;
-constexpr int removeObjectHook = 4;
-
-int liveQObjects = 0;
-
-// Counts the objects of some classes that are freed, and of two classes of the
-// AppKit's those that live: what edits a panel's name field, and timers.
-class ObjectCount
-{
-public:
-    static void install();
-
-    /// Since the last start().
-    static int freed(Class owner) { return s_freed[owner] - s_freedBefore[owner]; }
-    static void start() { s_freedBefore = s_freed; }
-    static int liveTextViews() { return s_textViews - s_freed [[NSTextView class]]; }
-    static int liveTimers() { return s_timers - s_freed [[NSTimer class]]; }
-
-private:
-    static IMP replace(Class owner, SEL selector, IMP replacement);
-    static void dealloc(id self, SEL selector);
-    static id initTextView(id self, SEL selector, NSRect frame, NSTextContainer* container);
-    static id initTimer(id self, SEL selector, NSDate* date, NSTimeInterval interval, id target,
-                        SEL action, id userInfo, BOOL repeats);
-
-    static inline std::map<Class, IMP> s_deallocs;
-    static inline std::map<Class, int> s_freed;
-    static inline std::map<Class, int> s_freedBefore;
-    static inline IMP s_initTextView = nullptr;
-    static inline IMP s_initTimer = nullptr;
-    static inline int s_textViews = 0;
-    static inline int s_timers = 0;
-};
-
-// An inherited method becomes the class's own.
-IMP ObjectCount::replace(Class owner, SEL selector, IMP replacement)
-{
-    const Method method = class_getInstanceMethod(owner, selector);
-    const IMP original = method_getImplementation(method);
-    if (!class_addMethod(owner, selector, replacement, method_getTypeEncoding(method)))
-        method_setImplementation(method, replacement);
-    return original;
-}
-
-void ObjectCount::dealloc(id self, SEL selector)
-{
-    const Class owner = object_getClass(self);
-    ++s_freed[owner];
-    reinterpret_cast<void (*)(id, SEL)>(s_deallocs[owner])(self, selector);
-}
-
-id ObjectCount::initTextView(id self, SEL selector, NSRect frame, NSTextContainer* container)
-{
-    ++s_textViews;
-    return reinterpret_cast<id (*)(id, SEL, NSRect, NSTextContainer*)>(s_initTextView)(
-        self, selector, frame, container);
-}
-
-id ObjectCount::initTimer(id self, SEL selector, NSDate* date, NSTimeInterval interval, id target,
-                          SEL action, id userInfo, BOOL repeats)
-{
-    ++s_timers;
-    return reinterpret_cast<id (*)(id, SEL, NSDate*, NSTimeInterval, id, SEL, id, BOOL)>(
-        s_initTimer)(self, selector, date, interval, target, action, userInfo, repeats);
-}
-
-// A subclass comes before its superclass, so that it keeps what it inherited.
-void ObjectCount::install()
-{
-    for (Class owner : {[NSOpenPanelExtWithSelectAll class],
-                        [NSOpenPanelExt class],
-                        [CVyNSOpenSavePanelDelegate class],
-                        [CVyViewFilterMacNative class],
-                        [CVyFileDialogMacNewNativeCocoa class],
-                        [CVyFileDialogMacOpenNativeCocoa class],
-                        [CVyFileDialogMacSaveNativeCocoa class],
-                        [NSTextView class],
-                        [NSTimer class]})
-        s_deallocs[owner] = replace(owner, @selector(dealloc), reinterpret_cast<IMP>(dealloc));
-    s_initTextView = replace([NSTextView class], @selector(initWithFrame:textContainer:),
-                             reinterpret_cast<IMP>(initTextView));
-    s_initTimer = replace([NSTimer class],
-                          @selector(initWithFireDate:interval:target:selector:userInfo:repeats:),
-                          reinterpret_cast<IMP>(initTimer));
-}
-
-int entries(const char* folder)
-{
-    const int count = static_cast<int>(QDir(QString::fromLatin1(folder)).count());
-    if (count <= 2)
-        QTest::qFail("the system does not tell", __FILE__, __LINE__);
-    return count;
-}
-
-// The windows of all programs on the display, which is the test's own.
-int windowsOnDisplay()
-{
-    QProcess tool;
-    tool.start("xwininfo", {"-root", "-tree"});
-    if (!tool.waitForFinished() || tool.exitCode() != 0)
-        QTest::qFail("xwininfo does not tell", __FILE__, __LINE__);
-    return tool.readAllStandardOutput().count("0x");
-}
-
-// Windows of that kind; the list that is counted would keep them.
-int liveWindows(Class kind)
-{
-    NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
-    int count = 0;
-    for (NSWindow* window in [NSApp windows])
-        count += [window isKindOfClass:kind];
-    [pool drain];
-    return count;
-}
-
-struct Resources
-{
-    int panels = liveWindows([NSPanel class]);
-    int windows = liveWindows([NSWindow class]);
-    int windowsOnScreen = windowsOnDisplay();
-    int qObjects = liveQObjects;
-    int files = entries("/proc/self/fd");
-    int threads = entries("/proc/self/task");
-    int textViews = ObjectCount::liveTextViews();
-    int timers = ObjectCount::liveTimers();
-};
 
 constexpr unsigned kinds[] = {CVyUserIO::FileNameOpen, CVyUserIO::FileNameNew,
                               CVyUserIO::FileNameSave};
@@ -198,10 +63,10 @@ void PanelLeakTest::hundredPanelsLeaveNothing()
     addFile("plan.dwg");
     runPanels(10); // what is made once
     ObjectCount::start();
-    const Resources before;
+    const PanelHoldings before;
     runPanels(90);
     QTest::qWait(50);
-    const Resources after;
+    const PanelHoldings after;
 
     QCOMPARE(ObjectCount::freed([NSOpenPanelExtWithSelectAll class]), 30);
     QCOMPARE(ObjectCount::freed([NSOpenPanelExt class]), 30);
@@ -211,15 +76,17 @@ void PanelLeakTest::hundredPanelsLeaveNothing()
     QCOMPARE(ObjectCount::freed([CVyFileDialogMacNewNativeCocoa class]), 30);
     QCOMPARE(ObjectCount::freed([CVyFileDialogMacSaveNativeCocoa class]), 30);
     QCOMPARE(after.panels, before.panels);
-    QCOMPARE(after.qObjects, before.qObjects);
+    QCOMPARE(after.objects, before.objects);
     QCOMPARE(after.threads, before.threads);
     // The AppKit keeps a few of its own, now more, now fewer; images, too, are
     // cached in windows.
     constexpr int few = 5;
     constexpr int caches = 30;
-    compareGrowth(after.windows - before.windows, caches, "windows");
+    compareGrowth(after.panelWindows - before.panelWindows, caches, "windows");
     compareGrowth(after.windowsOnScreen - before.windowsOnScreen, caches, "windows on screen");
-    compareGrowth(after.files - before.files, few, "files");
+    compareGrowth(after.descriptors - before.descriptors, few, "descriptors");
+    compareGrowth(after.textViews - before.textViews, few, "text views");
+    compareGrowth(after.timers - before.timers, few, "timers");
 }
 
 void PanelLeakTest::compareGrowth(int growth, int allowed, const char* what)
@@ -292,14 +159,7 @@ void PanelLeakTest::secondRunForgetsTheFirstController()
 
 int main(int argc, char* argv[])
 {
-    qtHookData[addObjectHook] = reinterpret_cast<quintptr>(+[](QObject*) { ++liveQObjects; });
-    qtHookData[removeObjectHook] = reinterpret_cast<quintptr>(+[](QObject*) { --liveQObjects; });
-    QApplication application(argc, argv);
-    NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
-    ObjectCount::install();
-    [pool drain];
-    PanelLeakTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runCounted<PanelLeakTest>(argc, argv);
 }
 
 #include "PanelLeakTest.moc"

@@ -2,7 +2,6 @@
 #include "NativeTest.h"
 
 #include "VyBookmarks.h"
-#include "VyNativeStrings.h"
 
 namespace {
 
@@ -26,47 +25,10 @@ QStringList bookmarkedPaths()
     return paths;
 }
 
-PanelDriver::Step chooseType(NSInteger index)
-{
-    return onPanel([index](NSSavePanel* panel) { choose(types(panel), index); });
-}
-
-PanelDriver::Step typeName(const QString& name)
-{
-    return onPanel(
-        [name](NSSavePanel* panel) { [panel setNameFieldStringValue:nsStringFromQString(name)]; });
-}
-
 PanelDriver::Step isNamed(const QString& name)
 {
     return onPanel(
         [name](NSSavePanel* panel) { QCOMPARE(text([panel nameFieldStringValue]), name); });
-}
-
-// What is written in the view, and its button with that tag.
-void readAlert(NSView* view, NSInteger tag, QString& words, NSButton*& button)
-{
-    for (NSView* child in [view subviews]) {
-        readAlert(child, tag, words, button);
-        if ([child isKindOfClass:[NSTextField class]])
-            words += text([static_cast<NSTextField*>(child) stringValue]) + " ";
-        if ([child isKindOfClass:[NSButton class]] && [child tag] == tag)
-            button = static_cast<NSButton*>(child);
-    }
-}
-
-// Presses a button of an alert that mentions \a word.
-PanelDriver::Step press(NSInteger tag, const QString& word)
-{
-    return [=](NSWindow* window) {
-        QVERIFY2(![window isKindOfClass:[NSSavePanel class]], "no alert came");
-        QString words;
-        NSButton* button = nil;
-        readAlert([window contentView], tag, words, button);
-        QVERIFY(button);
-        QVERIFY2(words.contains(word), qPrintable(words));
-        [NSApp sendAction:[button action] to:[button target] from:button];
-    };
 }
 
 } // namespace
@@ -271,7 +233,7 @@ void SavePanelTest::savesUnderThePresetName()
         HostRequest existing = request(CVyUserIO::FileNameSave);
         existing.filter = plainTypes;
         existing.start = path("old.dwg");
-        const std::vector<PanelDriver::Step> steps{accept(), press(firstButton, "old.dwg")};
+        const std::vector<PanelDriver::Step> steps{accept(), answerAlert(firstButton, "old.dwg")};
         several ? runSeveral(existing, steps) : run(existing, steps);
         QCOMPARE(existing.paths, QStringList(path("old.dwg")));
     }
@@ -394,7 +356,8 @@ void SavePanelTest::asksAboutAnotherExtension()
     QFETCH(QString, answered);
     HostRequest save = request(CVyUserIO::FileNameSave);
     save.filter = plainTypes;
-    std::vector<PanelDriver::Step> steps{typeName("plan.xyz"), accept(), press(button, ".xyz")};
+    std::vector<PanelDriver::Step> steps{typeName("plan.xyz"), accept(),
+                                         answerAlert(button, ".xyz")};
     if (answered.isEmpty()) {
         steps.push_back(isNamed("plan.xyz"));
         steps.push_back(cancel());
@@ -423,18 +386,18 @@ void SavePanelTest::asksBeforeReplacing()
     addFile(existing);
     HostRequest save = request(CVyUserIO::FileNameSave);
     save.filter = plainTypes;
-    run(save, {typeName(typed), accept(), press(firstButton, existing)});
+    run(save, {typeName(typed), accept(), answerAlert(firstButton, existing)});
     QCOMPARE(save.paths, QStringList(path(existing)));
 
     HostRequest other = request(CVyUserIO::FileNameSave);
     other.filter = plainTypes;
-    run(other, {typeName(typed), accept(), press(secondButton, existing), isNamed(typed),
+    run(other, {typeName(typed), accept(), answerAlert(secondButton, existing), isNamed(typed),
                 typeName("other"), accept()});
     QCOMPARE(other.paths, QStringList(path("other.dwg")));
 
     HostRequest none = request(CVyUserIO::FileNameSave);
     none.filter = plainTypes;
-    run(none, {typeName(typed), accept(), press(secondButton, existing), cancel()});
+    run(none, {typeName(typed), accept(), answerAlert(secondButton, existing), cancel()});
     QCOMPARE(none.status, -5002);
     QCOMPARE(none.mode, CVyUserIO::Save);
     QVERIFY(none.paths.isEmpty());

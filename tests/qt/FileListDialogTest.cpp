@@ -24,15 +24,6 @@ QListView* listOf(QFileDialog& dialog)
     return dialog.findChild<QListView*>(QStringLiteral("listView"));
 }
 
-QStringList listed(QFileDialog& dialog)
-{
-    const QListView* list = listOf(dialog);
-    QStringList names;
-    for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
-        names.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
-    return names;
-}
-
 QStringList selected(QFileDialog& dialog)
 {
     QStringList names;
@@ -71,6 +62,7 @@ private Q_SLOTS:
     void eachTypeListsItsFiles();
     void typeChangeCompilesNothing();
     void typedNamesAreSelected();
+    void nameOfAnotherTypeIsSelected();
     void openIsEnabledForATypedFileOfAnotherType();
     void selectedFileOfAnotherTypeIsLeft();
     void detailsKeepTheirColumns();
@@ -125,12 +117,12 @@ void FileListDialogTest::eachTypeListsItsFiles()
         for (const int index : {0, 1, 2, 3, 4, 5, 0}) {
             chooseType(dialog, index);
             bare.setNameFilter(types->itemText(index));
-            QTRY_VERIFY(listed(bare).contains("e") == (index == 4));
-            QTRY_VERIFY(listed(bare).contains("b.dwg") == (index != 2));
-            QTRY_COMPARE(listed(dialog), listed(bare));
+            QTRY_VERIFY(listedNames(bare).contains("e") == (index == 4));
+            QTRY_VERIFY(listedNames(bare).contains("b.dwg") == (index != 2));
+            QTRY_COMPARE(listedNames(dialog), listedNames(bare));
         }
-        QCOMPARE(listed(dialog).size(), 4);
-        QCOMPARE(listed(dialog).first(), QStringLiteral("folder.dwg"));
+        QCOMPARE(listedNames(dialog).size(), 4);
+        QCOMPARE(listedNames(dialog).first(), QStringLiteral("folder.dwg"));
         dialog.reject();
     })});
 }
@@ -148,15 +140,15 @@ void FileListDialogTest::typeChangeCompilesNothing()
     request.start = folder.path();
     request.filter = QStringLiteral("A&*.dwg;*.dws;*.bak&B&*.dxf&C&last.???");
     request.getFileName({onFileDialog([&](QFileDialog& dialog) {
-        QTRY_COMPARE(listed(dialog).size(), 300);
+        QTRY_COMPARE(listedNames(dialog).size(), 300);
         // One reads the types, others are Qt's for what it looks for itself.
         QVERIFY(compiledExpressions() - before < 20);
         const int opened = compiledExpressions();
         chooseType(dialog, 1);
-        QTRY_COMPARE(listed(dialog), QStringList{"last.dxf"});
+        QTRY_COMPARE(listedNames(dialog), QStringList{"last.dxf"});
         QCOMPARE(compiledExpressions(), opened);
         chooseType(dialog, 2);
-        QTRY_COMPARE(listed(dialog), QStringList{"last.dxf"});
+        QTRY_COMPARE(listedNames(dialog), QStringList{"last.dxf"});
         QCOMPARE(compiledExpressions(), opened + 1);
         dialog.reject();
     })});
@@ -183,6 +175,27 @@ void FileListDialogTest::typedNamesAreSelected()
                                          folder.filePath("c.dwg")}));
 }
 
+// As a user who goes from the name to the types, whose choice rewrites the name.
+void FileListDialogTest::nameOfAnotherTypeIsSelected()
+{
+    DrawingFolder folder;
+    folder.addFile("plan.dwg");
+    folder.addFile("plan.dxf");
+    HostRequest request;
+    request.type = CVyUserIO::FileNameSave;
+    request.filter = QStringLiteral("Drawing&*.dwg&Exchange&*.dxf");
+    request.start = folder.path();
+    request.getFileName({onFileDialog([](QFileDialog& dialog) {
+        QVERIFY(waitForFile(dialog, "plan.dwg"));
+        typeName(dialog, "plan.dwg");
+        QCOMPARE(selected(dialog), QStringList{"plan.dwg"});
+        dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->setFocus();
+        chooseType(dialog, 1);
+        QTRY_COMPARE(selected(dialog), QStringList{"plan.dxf"});
+        dialog.reject();
+    })});
+}
+
 void FileListDialogTest::openIsEnabledForATypedFileOfAnotherType()
 {
     DrawingFolder folder;
@@ -192,7 +205,7 @@ void FileListDialogTest::openIsEnabledForATypedFileOfAnotherType()
     request.start = folder.path();
     request.getFileName({onFileDialog([&](QFileDialog& dialog) {
         QVERIFY(waitForFile(dialog, "a.dwg"));
-        QVERIFY(!listed(dialog).contains("notes.txt"));
+        QVERIFY(!listedNames(dialog).contains("notes.txt"));
         typeName(dialog, "notes.tx");
         QPushButton* open = nullptr;
         for (auto* button : dialog.findChildren<QPushButton*>()) {
@@ -263,7 +276,7 @@ void FileListDialogTest::allFilesCanBeSelected()
     HostRequest request;
     request.start = folder.path();
     request.getFileNames({onFileDialog([&](QFileDialog& dialog) {
-        QTRY_COMPARE(listed(dialog).size(), 40);
+        QTRY_COMPARE(listedNames(dialog).size(), 40);
         listOf(dialog)->setFocus();
         QTest::keySequence(listOf(dialog), QKeySequence::SelectAll);
         QCOMPARE(selected(dialog).size(), 40);
@@ -285,7 +298,7 @@ void FileListDialogTest::createsAFolder()
         QTest::mouseClick(dialog.findChild<QToolButton*>(QStringLiteral("newFolderButton")),
                           Qt::LeftButton);
         QTRY_VERIFY(QFileInfo(folder.filePath("New Folder")).isDir());
-        QTRY_VERIFY(listed(dialog).contains("New Folder"));
+        QTRY_VERIFY(listedNames(dialog).contains("New Folder"));
         QCOMPARE(selected(dialog), QStringList{"New Folder"});
         dialog.reject();
     })});
@@ -303,7 +316,7 @@ void FileListDialogTest::deletesAFile()
         {onFileDialog([&](QFileDialog& dialog) {
              QVERIFY(clickFile(dialog, "b.dwg"));
              QMetaObject::invokeMethod(&dialog, "_q_deleteCurrent");
-             QTRY_VERIFY(!listed(dialog).contains("b.dwg"));
+             QTRY_VERIFY(!listedNames(dialog).contains("b.dwg"));
              dialog.reject();
          }),
          [](QDialog& question) { QTest::keyClick(&question, Qt::Key_Y, Qt::AltModifier); }});

@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -69,6 +70,22 @@ private:
     CVyFileListModel m_list;
 };
 
+// Counts the look-ups of rows, each of which Qt does by name.
+class CountedModel : public QFileSystemModel
+{
+public:
+    using QFileSystemModel::index;
+    QModelIndex index(int row, int column, const QModelIndex& parent) const override
+    {
+        ++m_lookUps;
+        return QFileSystemModel::index(row, column, parent);
+    }
+    int takeLookUps() { return std::exchange(m_lookUps, 0); }
+
+private:
+    mutable int m_lookUps = 0;
+};
+
 class FilledFolder : public DrawingFolder
 {
 public:
@@ -93,12 +110,16 @@ private Q_SLOTS:
     void listsAsQtDoes_data();
     void listsAsQtDoes();
     void followsTheFolder();
+    void rowsMoveUpAtOnce();
+    void rowsElsewhereGoUnseen();
     void fileBecomesFolder();
+    void changedFileStaysWhereItIs();
     void takesOverQtsNameFilters();
     void sorts_data();
     void sorts();
     void keepsIndexesThroughATypeChange();
     void anotherTypeAsksForNothing();
+    void aRowIsLookedUpOnce();
     void newFolderIsListedAtOnce();
     void renames();
     void visitedFoldersFollowTheType();
@@ -147,9 +168,47 @@ void FileListModelTest::followsTheFolder()
     QVERIFY(QFile::remove(folder.filePath("a.dwg")) && QFile::remove(folder.filePath("new.txt")));
     QTRY_VERIFY(!lists.listed().contains("a.dwg"));
     QTRY_COMPARE(lists.listed(), lists.expected());
+    for (const QString& name : lists.listed())
+        QCOMPARE(lists.file(name).data(QFileSystemModel::FileNameRole).toString(), name);
     lists.setPatterns({"*"});
     QTRY_VERIFY(!lists.listed().contains("new.txt") && lists.listed().contains("e"));
     QTRY_COMPARE(lists.listed(), lists.expected());
+}
+
+// Views ask again while they are told that a row has gone.
+void FileListModelTest::rowsMoveUpAtOnce()
+{
+    FilledFolder folder;
+    TwoLists lists(folder.path());
+    lists.setPatterns({"*.dwg"});
+    QTRY_VERIFY(lists.listed().contains("a.dwg") && lists.agree());
+    QStringList before;
+    QStringList after;
+    connect(&lists.list(), &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [&] { before = lists.listed(); });
+    connect(&lists.list(), &QAbstractItemModel::rowsRemoved, this, [&] { after = lists.listed(); });
+    QVERIFY(QFile::remove(folder.filePath("a.dwg")));
+    QTRY_VERIFY(!after.isEmpty());
+    QVERIFY(before.removeOne("a.dwg") && before.contains("b.dwg"));
+    QCOMPARE(after, before);
+}
+
+// Qt's model knows folders of which nobody has asked this one.
+void FileListModelTest::rowsElsewhereGoUnseen()
+{
+    FilledFolder folder;
+    TwoLists lists(folder.path());
+    lists.setPatterns({"*.dwg"});
+    QTRY_VERIFY(lists.listed().contains("a.dwg") && lists.agree());
+    const QPersistentModelIndex elsewhere = lists.files().index(folder.filePath("folder"));
+    lists.files().fetchMore(elsewhere);
+    QTRY_COMPARE(lists.files().rowCount(elsewhere), 2);
+    QSignalSpy removals(&lists.list(), &QAbstractItemModel::rowsRemoved);
+    QVERIFY(QFile::remove(folder.filePath("a.dwg")));
+    QTRY_COMPARE(removals.size(), 1);
+    QVERIFY(QFile::remove(folder.filePath("folder/inside.dwg")));
+    QTRY_COMPARE(lists.files().rowCount(elsewhere), 1);
+    QCOMPARE(removals.size(), 1);
 }
 
 void FileListModelTest::fileBecomesFolder()
@@ -162,6 +221,23 @@ void FileListModelTest::fileBecomesFolder()
     QVERIFY(QFile::remove(folder.filePath("e")));
     folder.addFolder("e");
     QTRY_VERIFY(lists.listed().contains("e"));
+}
+
+// A view keeps what it knows of all other files, and where it stands.
+void FileListModelTest::changedFileStaysWhereItIs()
+{
+    FilledFolder folder;
+    TwoLists lists(folder.path());
+    lists.setPatterns({"*.dwg"});
+    QTRY_VERIFY(lists.listed().contains("a.dwg") && lists.agree());
+    QSignalSpy changes(&lists.list(), &QAbstractItemModel::dataChanged);
+    QSignalSpy layouts(&lists.list(), &QAbstractItemModel::layoutChanged);
+    const QModelIndex file = lists.list().mapToSource(lists.file("a.dwg"));
+    Q_EMIT lists.files().dataChanged(file, file);
+    QCOMPARE(layouts.size(), 0);
+    QCOMPARE(changes.size(), 1);
+    QCOMPARE(changes.constFirst().at(0).toModelIndex(), lists.file("a.dwg"));
+    QCOMPARE(changes.constFirst().at(1).toModelIndex().row(), lists.file("a.dwg").row());
 }
 
 void FileListModelTest::takesOverQtsNameFilters()
@@ -232,6 +308,42 @@ void FileListModelTest::anotherTypeAsksForNothing()
     QTest::qWait(50);
     QCOMPARE(sorted.size(), 0);
     QCOMPARE(changed.size(), 1);
+}
+
+// A view asks for the flags of each row whenever it arranges its rows.
+void FileListModelTest::aRowIsLookedUpOnce()
+{
+    constexpr int Rows = 500;
+    DrawingFolder folder;
+    for (int number = 0; number < Rows; ++number)
+        folder.addFile(QStringLiteral("%1.dwg").arg(number));
+    CountedModel files;
+    CVyFileListModel list;
+    list.setSourceModel(&files);
+    list.setNameFilters({"*.dwg"});
+    files.setRootPath(folder.path());
+    const auto shown = [&] { return list.mapFromSource(files.index(folder.path())); };
+    QTRY_COMPARE(list.rowCount(shown()), Rows);
+    QTest::qWait(50);
+    const auto arrange = [&] {
+        for (int row = 0; row < list.rowCount(shown()); ++row)
+            list.flags(list.index(row, 0, shown()));
+    };
+    files.takeLookUps();
+    arrange();
+    QCOMPARE(files.takeLookUps(), 0);
+    list.setNameFilters({"*"});
+    QVERIFY2(files.takeLookUps() >= Rows, "nothing is counted");
+    arrange();
+    arrange();
+    QCOMPARE(files.takeLookUps(), 0);
+    QVERIFY(QFile::remove(folder.filePath("0.dwg")));
+    QTRY_COMPARE(list.rowCount(shown()), Rows - 1);
+    arrange();
+    QCOMPARE(list.index(0, 0, shown()).data().toString(), QStringLiteral("1.dwg"));
+    files.takeLookUps();
+    arrange();
+    QCOMPARE(files.takeLookUps(), 0);
 }
 
 void FileListModelTest::newFolderIsListedAtOnce()

@@ -114,6 +114,9 @@ void PathBarDialogTest::showsTheStartFolder()
         const auto* layout = dialog.findChild<QHBoxLayout*>(QStringLiteral("pathBar"));
         QCOMPARE(layout->contentsMargins(), QMargins());
         QCOMPARE(layout->spacing(), 0);
+        // The dialog's own margins are around the row and what is below it.
+        const auto* contents = dialog.findChild<QWidget*>(QStringLiteral("dialogContents"));
+        QCOMPARE(contents->layout()->contentsMargins(), QMargins());
         QCOMPARE(layout->alignment(), Qt::AlignLeft);
     });
 }

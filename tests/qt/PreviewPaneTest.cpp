@@ -65,6 +65,7 @@ void PreviewPaneTest::scalesToItsWidth_data()
     QTest::newRow("smaller") << 105 << QSize(100, 50);
     QTest::newRow("larger than the image") << 405 << QSize(400, 200);
     QTest::newRow("smallest") << 7 << QSize(2, 1);
+    QTest::newRow("one pixel") << 6 << QSize(1, 1);
 }
 
 void PreviewPaneTest::scalesToItsWidth()

@@ -7,19 +7,21 @@
 #include "VyPreviewReader.h"
 
 #include <QLabel>
-#include <QMutex>
 #include <QThread>
 #include <QTreeView>
-#include <QWaitCondition>
 #include <QtTest>
+
+#include <condition_variable>
+#include <mutex>
 
 namespace {
 
-// What the stand-in has been asked for, and when it may answer.
+// What the stand-in has been asked for, and when it may answer. With the standard
+// library's locks, as the thread sanitizer does not see Qt's.
 struct Disk
 {
-    QMutex mutex;
-    QWaitCondition answered;
+    std::mutex mutex;
+    std::condition_variable answered;
     QStringList started;
     QStringList slow; ///< files that wait until they are taken from here
     bool inInterface = false;
@@ -28,21 +30,20 @@ struct Disk
 
     void read(const QString& path)
     {
-        const QMutexLocker lock(&mutex);
+        std::unique_lock lock(mutex);
         inInterface = inInterface || QThread::currentThread() == qApp->thread();
         started.append(nameOf(path));
-        while (slow.contains(nameOf(path)))
-            answered.wait(&mutex);
+        answered.wait(lock, [&] { return !slow.contains(nameOf(path)); });
     }
     void answer(const QString& name)
     {
-        const QMutexLocker lock(&mutex);
+        const std::lock_guard lock(mutex);
         slow.removeAll(name);
-        answered.wakeAll();
+        answered.notify_all();
     }
     QStringList startedSoFar()
     {
-        const QMutexLocker lock(&mutex);
+        const std::lock_guard lock(mutex);
         return started;
     }
 };
@@ -124,7 +125,7 @@ private Q_SLOTS:
 
 void PreviewReaderTest::init()
 {
-    const QMutexLocker lock(&s_disk.mutex);
+    const std::lock_guard lock(s_disk.mutex);
     s_disk.started.clear();
     s_disk.slow.clear();
     s_disk.inInterface = false;
@@ -133,9 +134,9 @@ void PreviewReaderTest::init()
 void PreviewReaderTest::cleanup()
 {
     {
-        const QMutexLocker lock(&s_disk.mutex);
+        const std::lock_guard lock(s_disk.mutex);
         s_disk.slow.clear();
-        s_disk.answered.wakeAll();
+        s_disk.answered.notify_all();
     }
     QTest::qWait(20); // the threads end what they do
 }

@@ -22,7 +22,7 @@ public:
     using Step = std::function<void(QDialog&)>;
 
     explicit DialogDriver(std::vector<Step> steps);
-    /// Fails the test when a step has had no dialog.
+    /// Fails the test when a step has had no dialog, unless an exception ended the call.
     ~DialogDriver() override;
 
 private Q_SLOTS:
@@ -32,6 +32,7 @@ private:
     void closeForgotten(QDialog& dialog);
 
     std::vector<Step> m_steps;
+    const int m_exceptions;
     std::size_t m_next = 0;
     QPointer<QDialog> m_current;
     QElapsedTimer m_sinceCurrent;

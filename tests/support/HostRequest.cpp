@@ -7,6 +7,7 @@
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QListView>
+#include <QScopeGuard>
 #include <QTreeView>
 #include <QtTest>
 
@@ -34,14 +35,17 @@ QModelIndex indexOf(QFileDialog& dialog, const QString& name)
 int HostRequest::getFileName(std::vector<DialogDriver::Step> steps)
 {
     const DialogDriver driver(std::move(steps));
-    CVyString path(L"untouched");
+    const CVyString untouched(L"untouched");
+    CVyString path = untouched;
     CVyString templateText(templateName);
+    const auto keep = qScopeGuard([&] {
+        if (path != untouched)
+            paths = QStringList{path};
+    });
     status = CVyFileDialog::GetFileName(
         &mode, &path, parent, typeOf(*this), CVyString(title), CVyString(defaultExtension),
         CVyString(filter), CVyString(start), withTypeIndex ? &typeIndex : nullptr,
         templateName.isNull() ? nullptr : &templateText, flagsOf(*this), &codePage);
-    if (path != CVyString(L"untouched"))
-        paths = QStringList{path};
     return status;
 }
 
@@ -50,11 +54,11 @@ int HostRequest::getFileNames(std::vector<DialogDriver::Step> steps)
     const DialogDriver driver(std::move(steps));
     std::vector<CVyString> chosen(paths.begin(), paths.end());
     CVyString templateText(templateName);
+    const auto keep = qScopeGuard([&] { paths = QStringList(chosen.begin(), chosen.end()); });
     status = CVyFileDialog::GetFileNames(
         &mode, &chosen, parent, typeOf(*this), CVyString(title), CVyString(defaultExtension),
         CVyString(filter), CVyString(start), withTypeIndex ? &typeIndex : nullptr,
         templateName.isNull() ? nullptr : &templateText, flagsOf(*this), &codePage);
-    paths = QStringList(chosen.begin(), chosen.end());
     return status;
 }
 
@@ -70,6 +74,15 @@ DialogDriver::Step onFileDialog(std::function<void(QFileDialog&)> work)
         if (guard && QTest::currentTestFailed())
             dialog.reject();
     };
+}
+
+QStringList listedNames(QFileDialog& dialog)
+{
+    const auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+    QStringList names;
+    for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+        names.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+    return names;
 }
 
 bool waitForFile(QFileDialog& dialog, const QString& name)

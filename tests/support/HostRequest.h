@@ -8,8 +8,8 @@
 #include <QString>
 #include <QStringList>
 
-/// A request as a host makes it, with what it finds in its outputs afterwards.
-/// Outputs start with values that no request writes.
+/// A request as a host makes it, with what it finds in its outputs afterwards, also
+/// when an exception comes out of it. Outputs start with values that no request writes.
 struct HostRequest
 {
     unsigned type = CVyUserIO::FileNameOpen;
@@ -39,6 +39,9 @@ struct HostRequest
 
 /// A step for the file dialog of a request.
 DialogDriver::Step onFileDialog(std::function<void(QFileDialog&)> work);
+
+/// The names that the dialog lists, in their order.
+QStringList listedNames(QFileDialog& dialog);
 
 /// Waits until the dialog lists \a name in its current folder.
 bool waitForFile(QFileDialog& dialog, const QString& name);

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 # with-display.sh FOLDER PROGRAM ARGUMENT...: runs a test on a virtual display
 # with a window manager, with settings of its own, all in FOLDER. A test that
-# hangs is killed: GNUstep's modal loops take no other end.
+# hangs for VY_TEST_SECONDS, or 240, is killed: GNUstep's modal loops take no other end.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/../../scripts/lib/display.sh"
@@ -22,4 +22,4 @@ chmod 700 "$folder/runtime"
 export HOME=$folder/home XDG_RUNTIME_DIR=$folder/runtime TMPDIR=$folder/tmp
 own_gnustep_settings "$folder/gnustep"
 start_display "$folder/display"
-timeout --signal=KILL 240 "$@"
+timeout --signal=KILL "${VY_TEST_SECONDS:-240}" "$@"

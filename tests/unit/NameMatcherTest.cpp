@@ -33,6 +33,7 @@ private Q_SLOTS:
     void caseCanCount();
     void compilesEachPatternOnce_data();
     void compilesEachPatternOnce();
+    void manyWildcardsAreNoTrap();
 };
 
 void NameMatcherTest::matches_data()
@@ -175,6 +176,27 @@ void NameMatcherTest::compilesEachPatternOnce()
     for (int i = 0; i < 1000; ++i)
         matcher.matches(QStringLiteral("plan %1.bak").arg(i));
     QCOMPARE(compiledExpressions() - before, expressions);
+}
+
+// Qt's own expression for such a pattern tries all ways to part a name among the stars,
+// until it gives up.
+void NameMatcherTest::manyWildcardsAreNoTrap()
+{
+    const QString name = QString(200, 'a') + "b" + QString(54, 'a');
+    const auto time = [&](const QString& pattern, bool expected) {
+        const CVyNameMatcher matcher({pattern});
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < 100; ++i)
+            [&] { QCOMPARE(matcher.matches(name), expected); }();
+        return timer.nsecsElapsed();
+    };
+    const QString stars = QStringLiteral("*a").repeated(20);
+    const QString tail = 'b' + QString(60, '?'); // six letters more than there are
+    const qint64 one = time('*' + tail, false);
+    const qint64 many = time(stars + tail, false);
+    QVERIFY2(many < 500 * one, qPrintable(QString::number(many / one)));
+    time(stars + "*b" + stars, true);
 }
 
 QTEST_GUILESS_MAIN(NameMatcherTest)

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <algorithm>
+
 /// As QFileSystemModel matches a name: an expression for each pattern.
 class QtMatcher
 {
@@ -24,6 +26,16 @@ public:
                 return true;
         }
         return m_expressions.isEmpty();
+    }
+
+    /// Whether Qt gives up on \a name, as there are too many ways to try.
+    bool givesUp(const QString& name) const
+    {
+        return std::any_of(m_expressions.begin(), m_expressions.end(),
+                           [&](const QRegularExpression& expression) {
+                               return expression.isValid() && name.isValidUtf16() &&
+                                      !expression.match(name).isValid();
+                           });
     }
 
 private:
