@@ -21,11 +21,12 @@ start_display() {
 }
 
 # A number by chance, not the next free one: a server that is just ending would
-# take the socket of its successor away.
+# take the socket of its successor away. Without -noreset the server starts anew
+# when its last client goes, and cuts off a window manager that is just coming.
 start_server() {
     local folder=$1 geometry=$2 number=$((100 + RANDOM % 900))
     rm -f "$folder/display"
-    Xvfb ":$number" -displayfd 3 -screen 0 "$geometry" -fbdir "$folder" -nolisten tcp \
+    Xvfb ":$number" -displayfd 3 -screen 0 "$geometry" -fbdir "$folder" -nolisten tcp -noreset \
         3>"$folder/display" 2>"$folder/xvfb.log" &
     display_pids+=($!)
     screen_memory=$folder/Xvfb_screen0
