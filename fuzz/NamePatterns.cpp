@@ -12,8 +12,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const CVyNameMatcher matcher(patterns);
     const QtMatcher qt(patterns);
     for (const QString& name : qAsConst(names)) {
-        if (!name.contains('/')) // which no name of a file does
-            Fuzz::require(matcher.matches(name) == qt.matches(name), "as Qt answers");
+        if (name.contains('/')) // which no name of a file does
+            continue;
+        if (qt.givesUp(name)) // which takes its time
+            break;
+        Fuzz::require(matcher.matches(name) == qt.matches(name), "as Qt answers");
     }
     return 0;
 }
