@@ -26,16 +26,19 @@ def first_paint(setting):
 
 
 def list_filling(setting):
+    # The list is full when its order is final. When it has all rows is also told, but
+    # whether a sorting comes before that is for Qt's queue of events to say.
     for share in (100, 10):
         for patterns in (1, 6):
             for size in setting.sizes:
                 limits = {}
                 if size == 100000 and share == 100:
-                    limits = {"complete": Limit("ratio", 0.50), "stall": Limit("ratio", 0.45)}
+                    limits = {"settled": Limit("ratio", 0.50), "stall": Limit("ratio", 0.45)}
                     if patterns == 6:
-                        limits = dict.fromkeys(("complete", "stall"), Limit("ratio", 0.20))
+                        limits = dict.fromkeys(("settled", "stall"), Limit("ratio", 0.20))
                 elif size <= 1000:
-                    limits = dict.fromkeys(("complete", "stall"), Limit("ratio", 1.05))
+                    limits = dict.fromkeys(("complete", "settled", "stall"),
+                                           Limit("ratio", 1.05))
                 kinds = plural(patterns, "pattern")
                 yield Case("list filling", f"{files(size)}, {kinds}, {share} % match", size,
                            setting.both("ListFilling",
@@ -91,18 +94,20 @@ def slow_share(setting):
     """Every call that concerns the folder takes 20 ms more.
 
     To the 22 of a bare dialog ours adds one while it opens, which learns whether
-    the start path is a folder.
+    the start path is a folder. While the user walks and clicks the interface waits for
+    none: it stands still for less than one takes.
     """
-    size = 40
+    size, call_ms = 40, 20
     folder = setting.drawings(size)
-    limits = {"stall opening": 1.10, "stall walking": 1.05, "stall clicking": 1.05}
-    yield Case("slow share", f"{size} drawings with previews, 20 ms a call", size,
+    none = Limit("most", call_ms)
+    limits = {"stall opening": Limit("ratio", 1.10), "stall walking": none, "stall clicking": none}
+    yield Case("slow share", f"{size} drawings with previews, {call_ms} ms a call", size,
                setting.both("SlowFolder", "--folder=" + folder, f"--rows={size}",
                             f"--look={LOOK if setting.scale else 10}"),
                setting.repetitions(7),
-               {name: Limit("ratio", most) for name, most in limits.items()},
+               limits,
                environment={"LD_PRELOAD": setting.file("tests/slow-share/libVySlowShare.so"),
-                            "VY_SLOW_SHARE": folder, "VY_SLOW_SHARE_MS": str(20 if setting.scale else 1)})
+                            "VY_SLOW_SHARE": folder, "VY_SLOW_SHARE_MS": str(call_ms if setting.scale else 1)})
 
 
 BENCHMARKS = {

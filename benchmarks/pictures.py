@@ -12,9 +12,9 @@ FILES, TIME = "files in the folder", "milliseconds"
 PICTURES = [
     ("first paint", "first", "first", "First request until painted", FILES, TIME),
     ("first paint", "later", "later", "Later requests until painted", FILES, TIME),
-    ("list filling", "1 pattern, 100 % match", "complete", "List complete, one pattern", FILES,
+    ("list filling", "1 pattern, 100 % match", "settled", "List settled, one pattern", FILES,
      TIME),
-    ("list filling", "6 patterns, 100 % match", "complete", "List complete, six patterns", FILES,
+    ("list filling", "6 patterns, 100 % match", "settled", "List settled, six patterns", FILES,
      TIME),
     ("list filling", "1 pattern, 100 % match", "stall", "Longest stall, one pattern", FILES, TIME),
     ("list filling", "6 patterns, 100 % match", "stall", "Longest stall, six patterns", FILES,
