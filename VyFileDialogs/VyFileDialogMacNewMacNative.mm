@@ -44,7 +44,9 @@ id<VyPanelController> CVyFileDialogMacNewMacNativePrivate::newPanelController()
     CVyViewFilterMacNative* const view = VyPanelConstruction::addAccessoryView(
         panel, *m_privateHeader, delegate, type.description,
         VyPanelConstruction::modes(
-            {"Open", "Open with no Template - Imperial", "Open with no Template - Metric"}),
+            {QT_TRANSLATE_NOOP("CVyFileDialogs", "Open"),
+             QT_TRANSLATE_NOOP("CVyFileDialogs", "Open with no Template - Imperial"),
+             QT_TRANSLATE_NOOP("CVyFileDialogs", "Open with no Template - Metric")}),
         false);
     NSArray* const types = type.extensions.isEmpty()
                                ? nil

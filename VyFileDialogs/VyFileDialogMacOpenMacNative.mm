@@ -58,7 +58,10 @@ void requireEqualLengths(const QStringList& listFilter, const QStringList& listF
 {
     if (m_privateHeader->m_bNoOpenModes || !m_privateHeader->m_bMultiSelect)
         return nil;
-    return VyPanelConstruction::modes({"Open", "Open Read-Only", "Open with Encoding..."});
+    return VyPanelConstruction::modes(
+        {QT_TRANSLATE_NOOP("CVyFileDialogs", "Open"),
+         QT_TRANSLATE_NOOP("CVyFileDialogs", "Open Read-Only"),
+         QT_TRANSLATE_NOOP("CVyFileDialogs", "Open with Encoding...")});
 }
 
 - (NSOpenPanel*)panelWithDelegate:(CVyNSOpenSavePanelDelegate*)delegate

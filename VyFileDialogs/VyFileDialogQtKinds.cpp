@@ -101,21 +101,21 @@ void CVyFileDialogQtNew::HandleDialogInitialization()
 {
     if (!m_showModeMenu)
         return;
-    const char* const context = "CVyFileDialogQt";
     auto* button = new QToolButton(m_widget);
     button->setObjectName(QStringLiteral("openButton"));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setPopupMode(QToolButton::MenuButtonPopup);
-    button->setText(QCoreApplication::translate(context, "&Open"));
-    button->setAccessibleName(QCoreApplication::translate(context, "Open"));
+    button->setText(QCoreApplication::translate("CVyFileDialogQt", "&Open"));
+    button->setAccessibleName(QCoreApplication::translate("CVyFileDialogQt", "Open"));
     if (QDialogButtonBox* box = buttonBox(m_widget))
         replaceOpenButton(box, button);
 
     QMenu* menu = modeMenu(m_widget);
-    addMode(menu, QCoreApplication::translate(context, "Open"), SLOT(onActionNew()));
-    addMode(menu, QCoreApplication::translate(context, "Open with no Template - Imperial"),
+    addMode(menu, QCoreApplication::translate("CVyFileDialogQt", "Open"), SLOT(onActionNew()));
+    addMode(menu,
+            QCoreApplication::translate("CVyFileDialogQt", "Open with no Template - Imperial"),
             SLOT(onActionNewNoTemplateImperial()));
-    addMode(menu, QCoreApplication::translate(context, "Open with no Template - Metric"),
+    addMode(menu, QCoreApplication::translate("CVyFileDialogQt", "Open with no Template - Metric"),
             SLOT(onActionNewNoTemplateMetric()));
     button->setMenu(menu);
     openMenuByKey(button);
@@ -167,13 +167,12 @@ void CVyFileDialogQtOpen::HandleDialogInitialization()
         return;
     open->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
-    const char* const context = "CVyFileDialogs";
     QMenu* menu = modeMenu(m_widget);
-    addMode(menu, QCoreApplication::translate(context, "Open"), SLOT(onActionOpen()));
+    addMode(menu, QCoreApplication::translate("CVyFileDialogs", "Open"), SLOT(onActionOpen()));
     if (!m_hideReadOnlyChoices) {
-        addMode(menu, QCoreApplication::translate(context, "Open Read-Only"),
+        addMode(menu, QCoreApplication::translate("CVyFileDialogs", "Open Read-Only"),
                 SLOT(onActionOpenReadOnly()));
-        addMode(menu, QCoreApplication::translate(context, "Open with Encoding..."),
+        addMode(menu, QCoreApplication::translate("CVyFileDialogs", "Open with Encoding..."),
                 SLOT(onActionOpenWithEncoding()));
     }
     open->setMenu(menu);

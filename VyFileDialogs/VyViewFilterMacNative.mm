@@ -186,8 +186,8 @@ void setAllowedFileTypes(NSSavePanel* panel, CVyNSOpenSavePanelDelegate* delegat
        setTemplateDWGPath:(NSString*)templatePath
     setNoTemplateHandling:(BOOL)noTemplateHandling
 {
-    NSString* const filterText = translated("Files of Type:");
-    NSString* const modeText = translated("Open mode:");
+    NSString* const filterText = translated(QT_TRANSLATE_NOOP("CVyFileDialogs", "Files of Type:"));
+    NSString* const modeText = translated(QT_TRANSLATE_NOOP("CVyFileDialogs", "Open mode:"));
     const int labelWidth =
         VyAccessoryLayout::labelWidth(widthForStringDrawing(filterText, nil),
                                       openMode ? widthForStringDrawing(modeText, nil) : 0);
