@@ -58,7 +58,7 @@ QLabel* caption(const char* name, const QString& text, QWidget* buddy)
 {
     auto* label = named(name, new QLabel(text, buddy->parentWidget()));
     label->setBuddy(buddy);
-    buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed());
     return label;
 }
 

@@ -2,6 +2,9 @@
 # What every target of this project has in common.
 include(${CMAKE_CURRENT_LIST_DIR}/VyHardening.cmake)
 
+# The folder of a library or program, as the dynamic linker writes it.
+set(vy_origin $<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>)
+
 # vy_target(<name>): language level, warnings, hidden symbols, moc, and the
 # instrumentation that the cache asks for.
 function(vy_target name)
@@ -55,7 +58,27 @@ function(vy_complete_library name)
     if(NOT APPLE AND NOT VY_SANITIZERS)
         target_link_options(${name} PRIVATE LINKER:-z,defs)
     endif()
-    if(NOT APPLE)
-        set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
-    endif()
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH ${vy_origin})
+endfunction()
+
+# vy_program(<name>): an executable that finds the installed libraries from where it
+# is installed itself, wherever both are moved to.
+function(vy_program name)
+    vy_product(${name})
+    file(RELATIVE_PATH libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH ${vy_origin}/${libraries})
+    install(TARGETS ${name} RUNTIME COMPONENT tools)
+endfunction()
+
+# vy_install_library(<name> <name in packages> <header>...): installs it with what a
+# program needs to be compiled with it.
+function(vy_install_library name exported)
+    set_target_properties(${name} PROPERTIES EXPORT_NAME ${exported})
+    add_library(VyFileDialogs::${exported} ALIAS ${name})
+    target_sources(${name} PUBLIC FILE_SET HEADERS FILES ${ARGN})
+    install(TARGETS ${name} EXPORT ${name}Targets
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name} COMPONENT development
+        # Once more, for the CMake before 3.23 of a host.
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name})
 endfunction()
