@@ -5,376 +5,376 @@
     <name>CVyDlgEncoding</name>
     <message>
         <source>Western European</source>
-        <translation type="unfinished"></translation>
+        <translation>Westeuropäisch</translation>
     </message>
     <message>
         <source>Danish, Dutch, English, Finnish, French, German, Icelandic, Italian, Maltese, Norwegian, Portuguese, Spanish, Swedish</source>
-        <translation type="unfinished"></translation>
+        <translation>Dänisch, Deutsch, Englisch, Finnisch, Französisch, Isländisch, Italienisch, Maltesisch, Niederländisch, Norwegisch, Portugiesisch, Schwedisch, Spanisch</translation>
     </message>
     <message>
         <source>Central European</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitteleuropäisch</translation>
     </message>
     <message>
         <source>Albanian, Croatian, Czech, Hungarian, Polish, Romanian, Slovak, Slovenian</source>
-        <translation type="unfinished"></translation>
+        <translation>Albanisch, Kroatisch, Polnisch, Rumänisch, Slowakisch, Slowenisch, Tschechisch, Ungarisch</translation>
     </message>
     <message>
         <source>Baltic</source>
-        <translation type="unfinished"></translation>
+        <translation>Baltisch</translation>
     </message>
     <message>
         <source>Estonian, Latvian, Lithuanian</source>
-        <translation type="unfinished"></translation>
+        <translation>Estnisch, Lettisch, Litauisch</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kyrillisch</translation>
     </message>
     <message>
         <source>Belarusian, Bulgarian, Kazakh, Macedonian, Mongolian, Russian, Serbian, Ukrainian</source>
-        <translation type="unfinished"></translation>
+        <translation>Belarussisch, Bulgarisch, Kasachisch, Mazedonisch, Mongolisch, Russisch, Serbisch, Ukrainisch</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch</translation>
     </message>
     <message>
         <source>Turkish</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkisch</translation>
     </message>
     <message>
         <source>Azerbaijani, Turkish, Uzbek</source>
-        <translation type="unfinished"></translation>
+        <translation>Aserbaidschanisch, Türkisch, Usbekisch</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebräisch</translation>
     </message>
     <message>
         <source>Hebrew, Yiddish</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebräisch, Jiddisch</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabisch</translation>
     </message>
     <message>
         <source>Arabic, Persian, Urdu</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabisch, Persisch, Urdu</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation>Japanisch</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinesisch</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreanisch</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>Thailändisch</translation>
     </message>
     <message>
         <source>Vietnamese</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamesisch</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode</translation>
     </message>
     <message>
         <source>Any language</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Sprachen</translation>
     </message>
     <message>
         <source>Western European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Westeuropäisch (Windows)</translation>
     </message>
     <message>
         <source>Western European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Westeuropäisch (ISO)</translation>
     </message>
     <message>
         <source>Western European (Mac)</source>
-        <translation type="unfinished"></translation>
+        <translation>Westeuropäisch (Mac)</translation>
     </message>
     <message>
         <source>Western European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Westeuropäisch (DOS)</translation>
     </message>
     <message>
         <source>United States (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vereinigte Staaten (DOS)</translation>
     </message>
     <message>
         <source>English (US-ASCII)</source>
-        <translation type="unfinished"></translation>
+        <translation>Englisch (US-ASCII)</translation>
     </message>
     <message>
         <source>Maltese and South European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maltesisch und Südeuropäisch (ISO)</translation>
     </message>
     <message>
         <source>Portuguese (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portugiesisch (DOS)</translation>
     </message>
     <message>
         <source>Icelandic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Isländisch (DOS)</translation>
     </message>
     <message>
         <source>Canadian French (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanadisches Französisch (DOS)</translation>
     </message>
     <message>
         <source>Nordic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordisch (DOS)</translation>
     </message>
     <message>
         <source>Central European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitteleuropäisch (Windows)</translation>
     </message>
     <message>
         <source>Central European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitteleuropäisch (ISO)</translation>
     </message>
     <message>
         <source>Central European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitteleuropäisch (DOS)</translation>
     </message>
     <message>
         <source>Baltic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Baltisch (Windows)</translation>
     </message>
     <message>
         <source>Baltic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Baltisch (ISO)</translation>
     </message>
     <message>
         <source>Cyrillic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kyrillisch (Windows)</translation>
     </message>
     <message>
         <source>Cyrillic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kyrillisch (ISO)</translation>
     </message>
     <message>
         <source>Russian (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Russisch (DOS)</translation>
     </message>
     <message>
         <source>Cyrillic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kyrillisch (DOS)</translation>
     </message>
     <message>
         <source>Greek (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch (Windows)</translation>
     </message>
     <message>
         <source>Greek (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch (ISO)</translation>
     </message>
     <message>
         <source>Greek (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Griechisch (DOS)</translation>
     </message>
     <message>
         <source>Turkish (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkisch (Windows)</translation>
     </message>
     <message>
         <source>Turkish (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkisch (ISO)</translation>
     </message>
     <message>
         <source>Turkish (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Türkisch (DOS)</translation>
     </message>
     <message>
         <source>Hebrew (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebräisch (Windows)</translation>
     </message>
     <message>
         <source>Hebrew (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebräisch (ISO)</translation>
     </message>
     <message>
         <source>Arabic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabisch (Windows)</translation>
     </message>
     <message>
         <source>Arabic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabisch (ISO)</translation>
     </message>
     <message>
         <source>Arabic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabisch (DOS)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japanisch Shift-JIS (Windows)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japanisch Shift-JIS (DOS)</translation>
     </message>
     <message>
         <source>Simplified Chinese GBK (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vereinfachtes Chinesisch GBK (Windows)</translation>
     </message>
     <message>
         <source>Simplified Chinese (GB 2312)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vereinfachtes Chinesisch (GB 2312)</translation>
     </message>
     <message>
         <source>Traditional Chinese Big5 (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Traditionelles Chinesisch Big5 (Windows)</translation>
     </message>
     <message>
         <source>Traditional Chinese (Big5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Traditionelles Chinesisch (Big5)</translation>
     </message>
     <message>
         <source>Korean (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreanisch (Windows)</translation>
     </message>
     <message>
         <source>Korean Wansung (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreanisch Wansung (KS C 5601)</translation>
     </message>
     <message>
         <source>Korean Johab (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreanisch Johab (Windows)</translation>
     </message>
     <message>
         <source>Korean Johab (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreanisch Johab (KS C 5601)</translation>
     </message>
     <message>
         <source>Thai (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Thailändisch (Windows)</translation>
     </message>
     <message>
         <source>Vietnamese (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamesisch (Windows)</translation>
     </message>
     <message>
         <source>Unicode (UTF-8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-8)</translation>
     </message>
     <message>
         <source>Unicode (UTF-16)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-16)</translation>
     </message>
     <message>
         <source>No encoding matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kodierung passt zur Suche.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;reibgeschützt öffnen</translation>
     </message>
     <message>
         <source>Open with Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Kodierung öffnen</translation>
     </message>
     <message>
         <source>Language, name or number</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache, Name oder Nummer</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen:</translation>
     </message>
     <message>
         <source>&amp;Encoding of the drawing&apos;s text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kodierung der Texte in der Zeichnung:</translation>
     </message>
     <message>
         <source>&amp;Typical text in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Typischer Text in dieser Kodierung:</translation>
     </message>
     <message>
         <source>&amp;Text of the drawing in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texte der Zeichnung in dieser Kodierung:</translation>
     </message>
     <message>
         <source>Not all of this text exists in this encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle Zeichen dieses Textes sind in dieser Kodierung vorhanden.</translation>
     </message>
     <message>
         <source>It cannot be shown here, but can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kodierung kann hier nicht angezeigt, aber trotzdem gewählt werden.</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogQt</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Vorlage öffnen - Britisch</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Vorlage öffnen - Metrisch</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogWidget</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogs</name>
     <message>
         <source>Multiple files</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Dateien</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Vorlage öffnen - Britisch</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Vorlage öffnen - Metrisch</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibgeschützt öffnen</translation>
     </message>
     <message>
         <source>Open with Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Kodierung öffnen...</translation>
     </message>
     <message>
         <source>Files of Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien des Typs:</translation>
     </message>
     <message>
         <source>Open mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnungsmodus:</translation>
     </message>
 </context>
 </TS>

@@ -5,376 +5,376 @@
     <name>CVyDlgEncoding</name>
     <message>
         <source>Western European</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe occidentale</translation>
     </message>
     <message>
         <source>Danish, Dutch, English, Finnish, French, German, Icelandic, Italian, Maltese, Norwegian, Portuguese, Spanish, Swedish</source>
-        <translation type="unfinished"></translation>
+        <translation>Allemand, anglais, danois, espagnol, finnois, français, islandais, italien, maltais, néerlandais, norvégien, portugais, suédois</translation>
     </message>
     <message>
         <source>Central European</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe centrale</translation>
     </message>
     <message>
         <source>Albanian, Croatian, Czech, Hungarian, Polish, Romanian, Slovak, Slovenian</source>
-        <translation type="unfinished"></translation>
+        <translation>Albanais, croate, hongrois, polonais, roumain, slovaque, slovène, tchèque</translation>
     </message>
     <message>
         <source>Baltic</source>
-        <translation type="unfinished"></translation>
+        <translation>Balte</translation>
     </message>
     <message>
         <source>Estonian, Latvian, Lithuanian</source>
-        <translation type="unfinished"></translation>
+        <translation>Estonien, letton, lituanien</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrillique</translation>
     </message>
     <message>
         <source>Belarusian, Bulgarian, Kazakh, Macedonian, Mongolian, Russian, Serbian, Ukrainian</source>
-        <translation type="unfinished"></translation>
+        <translation>Biélorusse, bulgare, kazakh, macédonien, mongol, russe, serbe, ukrainien</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Grec</translation>
     </message>
     <message>
         <source>Turkish</source>
-        <translation type="unfinished"></translation>
+        <translation>Turc</translation>
     </message>
     <message>
         <source>Azerbaijani, Turkish, Uzbek</source>
-        <translation type="unfinished"></translation>
+        <translation>Azerbaïdjanais, ouzbek, turc</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation>Hébreu</translation>
     </message>
     <message>
         <source>Hebrew, Yiddish</source>
-        <translation type="unfinished"></translation>
+        <translation>Hébreu, yiddish</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabe</translation>
     </message>
     <message>
         <source>Arabic, Persian, Urdu</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabe, ourdou, persan</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonais</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinois</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Coréen</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>Thaï</translation>
     </message>
     <message>
         <source>Vietnamese</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamien</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode</translation>
     </message>
     <message>
         <source>Any language</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les langues</translation>
     </message>
     <message>
         <source>Western European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe occidentale (Windows)</translation>
     </message>
     <message>
         <source>Western European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe occidentale (ISO)</translation>
     </message>
     <message>
         <source>Western European (Mac)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe occidentale (Mac)</translation>
     </message>
     <message>
         <source>Western European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe occidentale (DOS)</translation>
     </message>
     <message>
         <source>United States (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>États-Unis (DOS)</translation>
     </message>
     <message>
         <source>English (US-ASCII)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anglais (US-ASCII)</translation>
     </message>
     <message>
         <source>Maltese and South European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maltais et Europe méridionale (ISO)</translation>
     </message>
     <message>
         <source>Portuguese (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portugais (DOS)</translation>
     </message>
     <message>
         <source>Icelandic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Islandais (DOS)</translation>
     </message>
     <message>
         <source>Canadian French (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Français canadien (DOS)</translation>
     </message>
     <message>
         <source>Nordic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordique (DOS)</translation>
     </message>
     <message>
         <source>Central European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe centrale (Windows)</translation>
     </message>
     <message>
         <source>Central European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe centrale (ISO)</translation>
     </message>
     <message>
         <source>Central European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Europe centrale (DOS)</translation>
     </message>
     <message>
         <source>Baltic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Balte (Windows)</translation>
     </message>
     <message>
         <source>Baltic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Balte (ISO)</translation>
     </message>
     <message>
         <source>Cyrillic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrillique (Windows)</translation>
     </message>
     <message>
         <source>Cyrillic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrillique (ISO)</translation>
     </message>
     <message>
         <source>Russian (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Russe (DOS)</translation>
     </message>
     <message>
         <source>Cyrillic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrillique (DOS)</translation>
     </message>
     <message>
         <source>Greek (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grec (Windows)</translation>
     </message>
     <message>
         <source>Greek (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grec (ISO)</translation>
     </message>
     <message>
         <source>Greek (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grec (DOS)</translation>
     </message>
     <message>
         <source>Turkish (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turc (Windows)</translation>
     </message>
     <message>
         <source>Turkish (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turc (ISO)</translation>
     </message>
     <message>
         <source>Turkish (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turc (DOS)</translation>
     </message>
     <message>
         <source>Hebrew (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hébreu (Windows)</translation>
     </message>
     <message>
         <source>Hebrew (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hébreu (ISO)</translation>
     </message>
     <message>
         <source>Arabic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabe (Windows)</translation>
     </message>
     <message>
         <source>Arabic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabe (ISO)</translation>
     </message>
     <message>
         <source>Arabic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabe (DOS)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonais Shift-JIS (Windows)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonais Shift-JIS (DOS)</translation>
     </message>
     <message>
         <source>Simplified Chinese GBK (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinois simplifié GBK (Windows)</translation>
     </message>
     <message>
         <source>Simplified Chinese (GB 2312)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinois simplifié (GB 2312)</translation>
     </message>
     <message>
         <source>Traditional Chinese Big5 (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinois traditionnel Big5 (Windows)</translation>
     </message>
     <message>
         <source>Traditional Chinese (Big5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chinois traditionnel (Big5)</translation>
     </message>
     <message>
         <source>Korean (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coréen (Windows)</translation>
     </message>
     <message>
         <source>Korean Wansung (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coréen Wansung (KS C 5601)</translation>
     </message>
     <message>
         <source>Korean Johab (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coréen Johab (Windows)</translation>
     </message>
     <message>
         <source>Korean Johab (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coréen Johab (KS C 5601)</translation>
     </message>
     <message>
         <source>Thai (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Thaï (Windows)</translation>
     </message>
     <message>
         <source>Vietnamese (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamien (Windows)</translation>
     </message>
     <message>
         <source>Unicode (UTF-8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-8)</translation>
     </message>
     <message>
         <source>Unicode (UTF-16)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-16)</translation>
     </message>
     <message>
         <source>No encoding matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun encodage ne correspond à la recherche.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir en &amp;lecture seule</translation>
     </message>
     <message>
         <source>Open with Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir avec l&apos;encodage</translation>
     </message>
     <message>
         <source>Language, name or number</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue, nom ou numéro</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Encoding of the drawing&apos;s text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Encodage du texte du dessin&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Typical text in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texte type dans cet encodage&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Text of the drawing in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texte du dessin dans cet encodage&#xa0;:</translation>
     </message>
     <message>
         <source>Not all of this text exists in this encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie de ce texte n&apos;existe pas dans cet encodage.</translation>
     </message>
     <message>
         <source>It cannot be shown here, but can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet encodage ne peut pas être affiché ici, mais il peut être choisi.</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogQt</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir sans gabarit - Impérial</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir sans gabarit - Métrique</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sous</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogWidget</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogs</name>
     <message>
         <source>Multiple files</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs fichiers</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir sans gabarit - Impérial</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir sans gabarit - Métrique</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir en lecture seule</translation>
     </message>
     <message>
         <source>Open with Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir avec l&apos;encodage...</translation>
     </message>
     <message>
         <source>Files of Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de type&#xa0;:</translation>
     </message>
     <message>
         <source>Open mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode d&apos;ouverture&#xa0;:</translation>
     </message>
 </context>
 </TS>

@@ -5,376 +5,376 @@
     <name>CVyDlgEncoding</name>
     <message>
         <source>Western European</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachodnioeuropejski</translation>
     </message>
     <message>
         <source>Danish, Dutch, English, Finnish, French, German, Icelandic, Italian, Maltese, Norwegian, Portuguese, Spanish, Swedish</source>
-        <translation type="unfinished"></translation>
+        <translation>Angielski, duński, fiński, francuski, hiszpański, islandzki, maltański, niderlandzki, niemiecki, norweski, portugalski, szwedzki, włoski</translation>
     </message>
     <message>
         <source>Central European</source>
-        <translation type="unfinished"></translation>
+        <translation>Środkowoeuropejski</translation>
     </message>
     <message>
         <source>Albanian, Croatian, Czech, Hungarian, Polish, Romanian, Slovak, Slovenian</source>
-        <translation type="unfinished"></translation>
+        <translation>Albański, chorwacki, czeski, polski, rumuński, słowacki, słoweński, węgierski</translation>
     </message>
     <message>
         <source>Baltic</source>
-        <translation type="unfinished"></translation>
+        <translation>Bałtycki</translation>
     </message>
     <message>
         <source>Estonian, Latvian, Lithuanian</source>
-        <translation type="unfinished"></translation>
+        <translation>Estoński, litewski, łotewski</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrylica</translation>
     </message>
     <message>
         <source>Belarusian, Bulgarian, Kazakh, Macedonian, Mongolian, Russian, Serbian, Ukrainian</source>
-        <translation type="unfinished"></translation>
+        <translation>Białoruski, bułgarski, kazachski, macedoński, mongolski, rosyjski, serbski, ukraiński</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Grecki</translation>
     </message>
     <message>
         <source>Turkish</source>
-        <translation type="unfinished"></translation>
+        <translation>Turecki</translation>
     </message>
     <message>
         <source>Azerbaijani, Turkish, Uzbek</source>
-        <translation type="unfinished"></translation>
+        <translation>Azerbejdżański, turecki, uzbecki</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrajski</translation>
     </message>
     <message>
         <source>Hebrew, Yiddish</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrajski, jidysz</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabski</translation>
     </message>
     <message>
         <source>Arabic, Persian, Urdu</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabski, perski, urdu</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation>Japoński</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiński</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreański</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>Tajski</translation>
     </message>
     <message>
         <source>Vietnamese</source>
-        <translation type="unfinished"></translation>
+        <translation>Wietnamski</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode</translation>
     </message>
     <message>
         <source>Any language</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie języki</translation>
     </message>
     <message>
         <source>Western European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachodnioeuropejski (Windows)</translation>
     </message>
     <message>
         <source>Western European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachodnioeuropejski (ISO)</translation>
     </message>
     <message>
         <source>Western European (Mac)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachodnioeuropejski (Mac)</translation>
     </message>
     <message>
         <source>Western European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachodnioeuropejski (DOS)</translation>
     </message>
     <message>
         <source>United States (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stany Zjednoczone (DOS)</translation>
     </message>
     <message>
         <source>English (US-ASCII)</source>
-        <translation type="unfinished"></translation>
+        <translation>Angielski (US-ASCII)</translation>
     </message>
     <message>
         <source>Maltese and South European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maltański i południowoeuropejski (ISO)</translation>
     </message>
     <message>
         <source>Portuguese (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portugalski (DOS)</translation>
     </message>
     <message>
         <source>Icelandic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Islandzki (DOS)</translation>
     </message>
     <message>
         <source>Canadian French (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Francuski kanadyjski (DOS)</translation>
     </message>
     <message>
         <source>Nordic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nordycki (DOS)</translation>
     </message>
     <message>
         <source>Central European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Środkowoeuropejski (Windows)</translation>
     </message>
     <message>
         <source>Central European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Środkowoeuropejski (ISO)</translation>
     </message>
     <message>
         <source>Central European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Środkowoeuropejski (DOS)</translation>
     </message>
     <message>
         <source>Baltic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bałtycki (Windows)</translation>
     </message>
     <message>
         <source>Baltic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bałtycki (ISO)</translation>
     </message>
     <message>
         <source>Cyrillic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrylica (Windows)</translation>
     </message>
     <message>
         <source>Cyrillic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrylica (ISO)</translation>
     </message>
     <message>
         <source>Russian (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosyjski (DOS)</translation>
     </message>
     <message>
         <source>Cyrillic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrylica (DOS)</translation>
     </message>
     <message>
         <source>Greek (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grecki (Windows)</translation>
     </message>
     <message>
         <source>Greek (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grecki (ISO)</translation>
     </message>
     <message>
         <source>Greek (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grecki (DOS)</translation>
     </message>
     <message>
         <source>Turkish (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turecki (Windows)</translation>
     </message>
     <message>
         <source>Turkish (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turecki (ISO)</translation>
     </message>
     <message>
         <source>Turkish (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turecki (DOS)</translation>
     </message>
     <message>
         <source>Hebrew (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrajski (Windows)</translation>
     </message>
     <message>
         <source>Hebrew (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrajski (ISO)</translation>
     </message>
     <message>
         <source>Arabic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabski (Windows)</translation>
     </message>
     <message>
         <source>Arabic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabski (ISO)</translation>
     </message>
     <message>
         <source>Arabic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabski (DOS)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japoński Shift-JIS (Windows)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japoński Shift-JIS (DOS)</translation>
     </message>
     <message>
         <source>Simplified Chinese GBK (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiński uproszczony GBK (Windows)</translation>
     </message>
     <message>
         <source>Simplified Chinese (GB 2312)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiński uproszczony (GB 2312)</translation>
     </message>
     <message>
         <source>Traditional Chinese Big5 (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiński tradycyjny Big5 (Windows)</translation>
     </message>
     <message>
         <source>Traditional Chinese (Big5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiński tradycyjny (Big5)</translation>
     </message>
     <message>
         <source>Korean (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreański (Windows)</translation>
     </message>
     <message>
         <source>Korean Wansung (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreański Wansung (KS C 5601)</translation>
     </message>
     <message>
         <source>Korean Johab (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreański Johab (Windows)</translation>
     </message>
     <message>
         <source>Korean Johab (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Koreański Johab (KS C 5601)</translation>
     </message>
     <message>
         <source>Thai (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tajski (Windows)</translation>
     </message>
     <message>
         <source>Vietnamese (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wietnamski (Windows)</translation>
     </message>
     <message>
         <source>Unicode (UTF-8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-8)</translation>
     </message>
     <message>
         <source>Unicode (UTF-16)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-16)</translation>
     </message>
     <message>
         <source>No encoding matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żadne kodowanie nie pasuje do szukanego tekstu.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz tylko &amp;do odczytu</translation>
     </message>
     <message>
         <source>Open with Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz z kodowaniem</translation>
     </message>
     <message>
         <source>Language, name or number</source>
-        <translation type="unfinished"></translation>
+        <translation>Język, nazwa lub numer</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Szukaj:</translation>
     </message>
     <message>
         <source>&amp;Encoding of the drawing&apos;s text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kodowanie tekstu rysunku:</translation>
     </message>
     <message>
         <source>&amp;Typical text in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Typowy tekst w tym kodowaniu:</translation>
     </message>
     <message>
         <source>&amp;Text of the drawing in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tekst rysunku w tym kodowaniu:</translation>
     </message>
     <message>
         <source>Not all of this text exists in this encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Część tego tekstu nie istnieje w tym kodowaniu.</translation>
     </message>
     <message>
         <source>It cannot be shown here, but can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tego kodowania nie można tu wyświetlić, ale można je wybrać.</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogQt</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otwórz</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz bez szablonu - Calowe</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz bez szablonu - Metryczne</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowaj jako</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogWidget</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Podgląd</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogs</name>
     <message>
         <source>Multiple files</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiele plików</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz bez szablonu - Calowe</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz bez szablonu - Metryczne</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz tylko do odczytu</translation>
     </message>
     <message>
         <source>Open with Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz z kodowaniem...</translation>
     </message>
     <message>
         <source>Files of Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki rodzaju:</translation>
     </message>
     <message>
         <source>Open mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryb otwierania:</translation>
     </message>
 </context>
 </TS>
