@@ -54,11 +54,18 @@ Widget* named(const char* name, Widget* widget)
     return widget;
 }
 
+// The text without its mnemonic, which languages without letters have in parentheses.
+QString plainText(const QString& text)
+{
+    static const QRegularExpression marks(QStringLiteral(R"(\(&.\)|[&:\x{ff1a}])"));
+    return QString(text).remove(marks).trimmed();
+}
+
 QLabel* caption(const char* name, const QString& text, QWidget* buddy)
 {
     auto* label = named(name, new QLabel(text, buddy->parentWidget()));
     label->setBuddy(buddy);
-    buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')).trimmed());
+    buddy->setAccessibleName(plainText(text));
     return label;
 }
 

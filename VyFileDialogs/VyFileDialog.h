@@ -7,6 +7,8 @@
 #include "VyString.h"
 #include "VyUserIO.h"
 
+#include <QLocale>
+
 #include <vector>
 
 class CVyFileDialogImpl;
@@ -46,6 +48,23 @@ public:
 
     /// The counterpart of Create(); does nothing.
     VY_FILEDIALOGS_EXPORT static void Destroy();
+
+    /// Gives the dialogs the language of \a locale: installs their texts in the
+    /// application and, for the rest of the Qt dialog, Qt's own catalogue, in place
+    /// of those of an earlier call. A host calls it once its QApplication is there,
+    /// and again when its user chooses another language; dialogs that are up keep
+    /// theirs.
+    ///
+    /// \param locale  the language; a country for which there are no texts gets
+    ///                those of another with the same script
+    /// \param folder  where the host keeps VyFileDialogs_*.qm and qtbase_*.qm; empty
+    ///                for where these libraries and Qt were installed
+    ///
+    /// \return whether there are texts of the dialogs in that language; else they
+    /// are English. Of Qt's catalogue nothing is told: a host may have installed it
+    /// itself. False without a QCoreApplication.
+    VY_FILEDIALOGS_EXPORT static bool LoadTranslations(const QLocale& locale = QLocale(),
+                                                       const CVyString& folder = CVyString());
 
     /// Asks for one path.
     ///

@@ -51,14 +51,16 @@ function(vy_shared_library name)
     vy_complete_library(${name})
 endfunction()
 
-# vy_complete_library(<name>): names all libraries that it needs. Those of ours
-# that are installed lie beside it.
+# vy_complete_library(<name>): names all libraries that it needs. Those of ours lie
+# beside it, and the translations where it looks for them: built as installed.
 function(vy_complete_library name)
     # The sanitizers' runtime comes with the executable.
     if(NOT APPLE AND NOT VY_SANITIZERS)
         target_link_options(${name} PRIVATE LINKER:-z,defs)
     endif()
-    set_target_properties(${name} PROPERTIES INSTALL_RPATH ${vy_origin})
+    set_target_properties(${name} PROPERTIES
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}
+        INSTALL_RPATH ${vy_origin})
 endfunction()
 
 # vy_program(<name>): an executable that finds the installed libraries from where it
