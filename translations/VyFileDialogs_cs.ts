@@ -5,376 +5,376 @@
     <name>CVyDlgEncoding</name>
     <message>
         <source>Western European</source>
-        <translation type="unfinished"></translation>
+        <translation>Západoevropské jazyky</translation>
     </message>
     <message>
         <source>Danish, Dutch, English, Finnish, French, German, Icelandic, Italian, Maltese, Norwegian, Portuguese, Spanish, Swedish</source>
-        <translation type="unfinished"></translation>
+        <translation>Angličtina, dánština, finština, francouzština, islandština, italština, maltština, němčina, nizozemština, norština, portugalština, španělština, švédština</translation>
     </message>
     <message>
         <source>Central European</source>
-        <translation type="unfinished"></translation>
+        <translation>Středoevropské jazyky</translation>
     </message>
     <message>
         <source>Albanian, Croatian, Czech, Hungarian, Polish, Romanian, Slovak, Slovenian</source>
-        <translation type="unfinished"></translation>
+        <translation>Albánština, čeština, chorvatština, maďarština, polština, rumunština, slovenština, slovinština</translation>
     </message>
     <message>
         <source>Baltic</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobaltské jazyky</translation>
     </message>
     <message>
         <source>Estonian, Latvian, Lithuanian</source>
-        <translation type="unfinished"></translation>
+        <translation>Estonština, litevština, lotyština</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrilice</translation>
     </message>
     <message>
         <source>Belarusian, Bulgarian, Kazakh, Macedonian, Mongolian, Russian, Serbian, Ukrainian</source>
-        <translation type="unfinished"></translation>
+        <translation>Běloruština, bulharština, kazaština, makedonština, mongolština, ruština, srbština, ukrajinština</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Řečtina</translation>
     </message>
     <message>
         <source>Turkish</source>
-        <translation type="unfinished"></translation>
+        <translation>Turečtina</translation>
     </message>
     <message>
         <source>Azerbaijani, Turkish, Uzbek</source>
-        <translation type="unfinished"></translation>
+        <translation>Ázerbájdžánština, turečtina, uzbečtina</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrejština</translation>
     </message>
     <message>
         <source>Hebrew, Yiddish</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrejština, jidiš</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabština</translation>
     </message>
     <message>
         <source>Arabic, Persian, Urdu</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabština, perština, urdština</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonština</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>Čínština</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Korejština</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>Thajština</translation>
     </message>
     <message>
         <source>Vietnamese</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamština</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode</translation>
     </message>
     <message>
         <source>Any language</source>
-        <translation type="unfinished"></translation>
+        <translation>Libovolný jazyk</translation>
     </message>
     <message>
         <source>Western European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Západoevropské jazyky (Windows)</translation>
     </message>
     <message>
         <source>Western European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Západoevropské jazyky (ISO)</translation>
     </message>
     <message>
         <source>Western European (Mac)</source>
-        <translation type="unfinished"></translation>
+        <translation>Západoevropské jazyky (Mac)</translation>
     </message>
     <message>
         <source>Western European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Západoevropské jazyky (DOS)</translation>
     </message>
     <message>
         <source>United States (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Spojené státy (DOS)</translation>
     </message>
     <message>
         <source>English (US-ASCII)</source>
-        <translation type="unfinished"></translation>
+        <translation>Angličtina (US-ASCII)</translation>
     </message>
     <message>
         <source>Maltese and South European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maltština a jihoevropské jazyky (ISO)</translation>
     </message>
     <message>
         <source>Portuguese (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Portugalština (DOS)</translation>
     </message>
     <message>
         <source>Icelandic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Islandština (DOS)</translation>
     </message>
     <message>
         <source>Canadian French (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanadská francouzština (DOS)</translation>
     </message>
     <message>
         <source>Nordic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Severské jazyky (DOS)</translation>
     </message>
     <message>
         <source>Central European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Středoevropské jazyky (Windows)</translation>
     </message>
     <message>
         <source>Central European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Středoevropské jazyky (ISO)</translation>
     </message>
     <message>
         <source>Central European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Středoevropské jazyky (DOS)</translation>
     </message>
     <message>
         <source>Baltic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobaltské jazyky (Windows)</translation>
     </message>
     <message>
         <source>Baltic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobaltské jazyky (ISO)</translation>
     </message>
     <message>
         <source>Cyrillic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrilice (Windows)</translation>
     </message>
     <message>
         <source>Cyrillic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrilice (ISO)</translation>
     </message>
     <message>
         <source>Russian (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruština (DOS)</translation>
     </message>
     <message>
         <source>Cyrillic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cyrilice (DOS)</translation>
     </message>
     <message>
         <source>Greek (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Řečtina (Windows)</translation>
     </message>
     <message>
         <source>Greek (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Řečtina (ISO)</translation>
     </message>
     <message>
         <source>Greek (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Řečtina (DOS)</translation>
     </message>
     <message>
         <source>Turkish (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turečtina (Windows)</translation>
     </message>
     <message>
         <source>Turkish (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turečtina (ISO)</translation>
     </message>
     <message>
         <source>Turkish (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Turečtina (DOS)</translation>
     </message>
     <message>
         <source>Hebrew (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrejština (Windows)</translation>
     </message>
     <message>
         <source>Hebrew (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebrejština (ISO)</translation>
     </message>
     <message>
         <source>Arabic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabština (Windows)</translation>
     </message>
     <message>
         <source>Arabic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabština (ISO)</translation>
     </message>
     <message>
         <source>Arabic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arabština (DOS)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonština Shift-JIS (Windows)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Japonština Shift-JIS (DOS)</translation>
     </message>
     <message>
         <source>Simplified Chinese GBK (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjednodušená čínština GBK (Windows)</translation>
     </message>
     <message>
         <source>Simplified Chinese (GB 2312)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjednodušená čínština (GB 2312)</translation>
     </message>
     <message>
         <source>Traditional Chinese Big5 (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tradiční čínština Big5 (Windows)</translation>
     </message>
     <message>
         <source>Traditional Chinese (Big5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tradiční čínština (Big5)</translation>
     </message>
     <message>
         <source>Korean (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Korejština (Windows)</translation>
     </message>
     <message>
         <source>Korean Wansung (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Korejština Wansung (KS C 5601)</translation>
     </message>
     <message>
         <source>Korean Johab (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Korejština Johab (Windows)</translation>
     </message>
     <message>
         <source>Korean Johab (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Korejština Johab (KS C 5601)</translation>
     </message>
     <message>
         <source>Thai (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Thajština (Windows)</translation>
     </message>
     <message>
         <source>Vietnamese (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vietnamština (Windows)</translation>
     </message>
     <message>
         <source>Unicode (UTF-8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-8)</translation>
     </message>
     <message>
         <source>Unicode (UTF-16)</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode (UTF-16)</translation>
     </message>
     <message>
         <source>No encoding matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání neodpovídá žádné kódování.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;jen pro čtení</translation>
     </message>
     <message>
         <source>Open with Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít s kódováním</translation>
     </message>
     <message>
         <source>Language, name or number</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk, název nebo číslo</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hledat:</translation>
     </message>
     <message>
         <source>&amp;Encoding of the drawing&apos;s text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kódování textu výkresu:</translation>
     </message>
     <message>
         <source>&amp;Typical text in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázkový &amp;text v tomto kódování:</translation>
     </message>
     <message>
         <source>&amp;Text of the drawing in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text výkresu v tomto kódování:</translation>
     </message>
     <message>
         <source>Not all of this text exists in this encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Část tohoto textu v tomto kódování neexistuje.</translation>
     </message>
     <message>
         <source>It cannot be shown here, but can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto kódování zde nelze zobrazit, lze je však vybrat.</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogQt</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít bez šablony – imperiální</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít bez šablony – metrické</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogWidget</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogs</name>
     <message>
         <source>Multiple files</source>
-        <translation type="unfinished"></translation>
+        <translation>Více souborů</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít bez šablony – imperiální</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít bez šablony – metrické</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít jen pro čtení</translation>
     </message>
     <message>
         <source>Open with Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít s kódováním...</translation>
     </message>
     <message>
         <source>Files of Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory typu:</translation>
     </message>
     <message>
         <source>Open mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Způsob otevření:</translation>
     </message>
 </context>
 </TS>

@@ -5,376 +5,376 @@
     <name>CVyDlgEncoding</name>
     <message>
         <source>Western European</source>
-        <translation type="unfinished"></translation>
+        <translation>Западноевропейские языки</translation>
     </message>
     <message>
         <source>Danish, Dutch, English, Finnish, French, German, Icelandic, Italian, Maltese, Norwegian, Portuguese, Spanish, Swedish</source>
-        <translation type="unfinished"></translation>
+        <translation>Английский, датский, исландский, испанский, итальянский, мальтийский, немецкий, нидерландский, норвежский, португальский, финский, французский, шведский</translation>
     </message>
     <message>
         <source>Central European</source>
-        <translation type="unfinished"></translation>
+        <translation>Центральноевропейские языки</translation>
     </message>
     <message>
         <source>Albanian, Croatian, Czech, Hungarian, Polish, Romanian, Slovak, Slovenian</source>
-        <translation type="unfinished"></translation>
+        <translation>Албанский, венгерский, польский, румынский, словацкий, словенский, хорватский, чешский</translation>
     </message>
     <message>
         <source>Baltic</source>
-        <translation type="unfinished"></translation>
+        <translation>Балтийские языки</translation>
     </message>
     <message>
         <source>Estonian, Latvian, Lithuanian</source>
-        <translation type="unfinished"></translation>
+        <translation>Латышский, литовский, эстонский</translation>
     </message>
     <message>
         <source>Cyrillic</source>
-        <translation type="unfinished"></translation>
+        <translation>Кириллица</translation>
     </message>
     <message>
         <source>Belarusian, Bulgarian, Kazakh, Macedonian, Mongolian, Russian, Serbian, Ukrainian</source>
-        <translation type="unfinished"></translation>
+        <translation>Белорусский, болгарский, казахский, македонский, монгольский, русский, сербский, украинский</translation>
     </message>
     <message>
         <source>Greek</source>
-        <translation type="unfinished"></translation>
+        <translation>Греческий</translation>
     </message>
     <message>
         <source>Turkish</source>
-        <translation type="unfinished"></translation>
+        <translation>Турецкий</translation>
     </message>
     <message>
         <source>Azerbaijani, Turkish, Uzbek</source>
-        <translation type="unfinished"></translation>
+        <translation>Азербайджанский, турецкий, узбекский</translation>
     </message>
     <message>
         <source>Hebrew</source>
-        <translation type="unfinished"></translation>
+        <translation>Иврит</translation>
     </message>
     <message>
         <source>Hebrew, Yiddish</source>
-        <translation type="unfinished"></translation>
+        <translation>Иврит, идиш</translation>
     </message>
     <message>
         <source>Arabic</source>
-        <translation type="unfinished"></translation>
+        <translation>Арабский</translation>
     </message>
     <message>
         <source>Arabic, Persian, Urdu</source>
-        <translation type="unfinished"></translation>
+        <translation>Арабский, персидский, урду</translation>
     </message>
     <message>
         <source>Japanese</source>
-        <translation type="unfinished"></translation>
+        <translation>Японский</translation>
     </message>
     <message>
         <source>Chinese</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайский</translation>
     </message>
     <message>
         <source>Korean</source>
-        <translation type="unfinished"></translation>
+        <translation>Корейский</translation>
     </message>
     <message>
         <source>Thai</source>
-        <translation type="unfinished"></translation>
+        <translation>Тайский</translation>
     </message>
     <message>
         <source>Vietnamese</source>
-        <translation type="unfinished"></translation>
+        <translation>Вьетнамский</translation>
     </message>
     <message>
         <source>Unicode</source>
-        <translation type="unfinished"></translation>
+        <translation>Юникод</translation>
     </message>
     <message>
         <source>Any language</source>
-        <translation type="unfinished"></translation>
+        <translation>Любой язык</translation>
     </message>
     <message>
         <source>Western European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Западноевропейская (Windows)</translation>
     </message>
     <message>
         <source>Western European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Западноевропейская (ISO)</translation>
     </message>
     <message>
         <source>Western European (Mac)</source>
-        <translation type="unfinished"></translation>
+        <translation>Западноевропейская (Mac)</translation>
     </message>
     <message>
         <source>Western European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Западноевропейская (DOS)</translation>
     </message>
     <message>
         <source>United States (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>США (DOS)</translation>
     </message>
     <message>
         <source>English (US-ASCII)</source>
-        <translation type="unfinished"></translation>
+        <translation>Английская (US-ASCII)</translation>
     </message>
     <message>
         <source>Maltese and South European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Мальтийская и южноевропейская (ISO)</translation>
     </message>
     <message>
         <source>Portuguese (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Португальская (DOS)</translation>
     </message>
     <message>
         <source>Icelandic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Исландская (DOS)</translation>
     </message>
     <message>
         <source>Canadian French (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Канадская французская (DOS)</translation>
     </message>
     <message>
         <source>Nordic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Скандинавская (DOS)</translation>
     </message>
     <message>
         <source>Central European (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Центральноевропейская (Windows)</translation>
     </message>
     <message>
         <source>Central European (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Центральноевропейская (ISO)</translation>
     </message>
     <message>
         <source>Central European (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Центральноевропейская (DOS)</translation>
     </message>
     <message>
         <source>Baltic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Балтийская (Windows)</translation>
     </message>
     <message>
         <source>Baltic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Балтийская (ISO)</translation>
     </message>
     <message>
         <source>Cyrillic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Кириллица (Windows)</translation>
     </message>
     <message>
         <source>Cyrillic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Кириллица (ISO)</translation>
     </message>
     <message>
         <source>Russian (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Русская (DOS)</translation>
     </message>
     <message>
         <source>Cyrillic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Кириллица (DOS)</translation>
     </message>
     <message>
         <source>Greek (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Греческая (Windows)</translation>
     </message>
     <message>
         <source>Greek (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Греческая (ISO)</translation>
     </message>
     <message>
         <source>Greek (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Греческая (DOS)</translation>
     </message>
     <message>
         <source>Turkish (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Турецкая (Windows)</translation>
     </message>
     <message>
         <source>Turkish (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Турецкая (ISO)</translation>
     </message>
     <message>
         <source>Turkish (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Турецкая (DOS)</translation>
     </message>
     <message>
         <source>Hebrew (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Иврит (Windows)</translation>
     </message>
     <message>
         <source>Hebrew (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Иврит (ISO)</translation>
     </message>
     <message>
         <source>Arabic (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Арабская (Windows)</translation>
     </message>
     <message>
         <source>Arabic (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Арабская (ISO)</translation>
     </message>
     <message>
         <source>Arabic (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Арабская (DOS)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Японская Shift-JIS (Windows)</translation>
     </message>
     <message>
         <source>Japanese Shift-JIS (DOS)</source>
-        <translation type="unfinished"></translation>
+        <translation>Японская Shift-JIS (DOS)</translation>
     </message>
     <message>
         <source>Simplified Chinese GBK (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайская упрощённая GBK (Windows)</translation>
     </message>
     <message>
         <source>Simplified Chinese (GB 2312)</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайская упрощённая (GB 2312)</translation>
     </message>
     <message>
         <source>Traditional Chinese Big5 (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайская традиционная Big5 (Windows)</translation>
     </message>
     <message>
         <source>Traditional Chinese (Big5)</source>
-        <translation type="unfinished"></translation>
+        <translation>Китайская традиционная (Big5)</translation>
     </message>
     <message>
         <source>Korean (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Корейская (Windows)</translation>
     </message>
     <message>
         <source>Korean Wansung (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Корейская Wansung (KS C 5601)</translation>
     </message>
     <message>
         <source>Korean Johab (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Корейская Johab (Windows)</translation>
     </message>
     <message>
         <source>Korean Johab (KS C 5601)</source>
-        <translation type="unfinished"></translation>
+        <translation>Корейская Johab (KS C 5601)</translation>
     </message>
     <message>
         <source>Thai (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Тайская (Windows)</translation>
     </message>
     <message>
         <source>Vietnamese (Windows)</source>
-        <translation type="unfinished"></translation>
+        <translation>Вьетнамская (Windows)</translation>
     </message>
     <message>
         <source>Unicode (UTF-8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Юникод (UTF-8)</translation>
     </message>
     <message>
         <source>Unicode (UTF-16)</source>
-        <translation type="unfinished"></translation>
+        <translation>Юникод (UTF-16)</translation>
     </message>
     <message>
         <source>No encoding matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет кодировок, соответствующих запросу.</translation>
     </message>
     <message>
         <source>Open &amp;read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть только для &amp;чтения</translation>
     </message>
     <message>
         <source>Open with Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть с указанием кодировки</translation>
     </message>
     <message>
         <source>Language, name or number</source>
-        <translation type="unfinished"></translation>
+        <translation>Язык, название или номер</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Поиск:</translation>
     </message>
     <message>
         <source>&amp;Encoding of the drawing&apos;s text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Кодировка текста чертежа:</translation>
     </message>
     <message>
         <source>&amp;Typical text in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>Пример &amp;текста в этой кодировке:</translation>
     </message>
     <message>
         <source>&amp;Text of the drawing in this encoding:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Текст чертежа в этой кодировке:</translation>
     </message>
     <message>
         <source>Not all of this text exists in this encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>В этой кодировке есть не все символы этого текста.</translation>
     </message>
     <message>
         <source>It cannot be shown here, but can be chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Эту кодировку нельзя показать здесь, но можно выбрать.</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogQt</name>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Открыть</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть без шаблона — британские единицы</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть без шаблона — метрические единицы</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Сохранить как</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogWidget</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Просмотр</translation>
     </message>
 </context>
 <context>
     <name>CVyFileDialogs</name>
     <message>
         <source>Multiple files</source>
-        <translation type="unfinished"></translation>
+        <translation>Несколько файлов</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть без шаблона — британские единицы</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть без шаблона — метрические единицы</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть только для чтения</translation>
     </message>
     <message>
         <source>Open with Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть с указанием кодировки...</translation>
     </message>
     <message>
         <source>Files of Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Типы файлов:</translation>
     </message>
     <message>
         <source>Open mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим открытия:</translation>
     </message>
 </context>
 </TS>
