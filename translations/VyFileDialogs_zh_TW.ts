@@ -324,11 +324,11 @@
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation>不使用範本開啟 - 英制</translation>
+        <translation>不使用樣板開啟 - 英制</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation>不使用範本開啟 - 公制</translation>
+        <translation>不使用樣板開啟 - 公制</translation>
     </message>
     <message>
         <source>Save As</source>
@@ -354,11 +354,11 @@
     </message>
     <message>
         <source>Open with no Template - Imperial</source>
-        <translation>不使用範本開啟 - 英制</translation>
+        <translation>不使用樣板開啟 - 英制</translation>
     </message>
     <message>
         <source>Open with no Template - Metric</source>
-        <translation>不使用範本開啟 - 公制</translation>
+        <translation>不使用樣板開啟 - 公制</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
