@@ -4,6 +4,7 @@
 #include "Request.h"
 #include "StandardStreams.h"
 #include "TransientParent.h"
+#include "VyFileDialog.h"
 #include "Warnings.h"
 
 #include <QApplication>
@@ -95,6 +96,7 @@ ExitStatus askAndPrint(const Options& options)
     [[maybe_unused]] static const auto* application = new QApplication(count, arguments);
     starting = false;
     startMessages.clear();
+    CVyFileDialog::LoadTranslations();
     const QStringList allWarnings = warnings(options);
     for (const QString& warning : allWarnings)
         say(QLatin1String("warning: ") + warning);

@@ -19,6 +19,7 @@ expect_shown "$1" 'CVyFileDialog::Create
 CVyFileDialog::Destroy
 CVyFileDialog::GetFileName
 CVyFileDialog::GetFileNames
+CVyFileDialog::LoadTranslations
 CVyFileDialog::SetStyle
 CVyFileDialog::s_Style
 CVyFileDialog::s_StyleTmp'
