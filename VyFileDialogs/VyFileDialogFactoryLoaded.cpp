@@ -13,7 +13,7 @@ namespace {
 
 using Create = decltype(&VyCreateNativeDialog);
 
-// Beside this library, wherever that is. By a run path the system would find it,
+// In a folder beside this library, wherever that is. By a run path the system would find it,
 // too, but not in a host that comes between us and dlopen(), as sanitizers do.
 QByteArray modulePath()
 {

@@ -78,6 +78,7 @@ function(vy_install_library name exported)
     set_target_properties(${name} PROPERTIES EXPORT_NAME ${exported})
     add_library(VyFileDialogs::${exported} ALIAS ${name})
     target_sources(${name} PUBLIC FILE_SET HEADERS FILES ${ARGN})
+    target_compile_features(${name} PUBLIC cxx_std_17)
     install(TARGETS ${name} EXPORT ${name}Targets
         LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${name} COMPONENT development

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The library and its module of native panels, as a host has them on its disk:
-// side by side in some folder that nothing but the library itself leads to.
+// in some folder that nothing but the library itself leads to.
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -11,7 +11,8 @@
 
 namespace {
 
-const QString moduleName = QFileInfo(VY_MODULE).fileName();
+const QString moduleFolder = "VyFileDialogs/";
+const QString moduleName = moduleFolder + QFileInfo(VY_MODULE).fileName();
 
 QString warning(const QString& reason)
 {
@@ -40,6 +41,7 @@ private:
     QString path(const QString& name) const { return m_folder->filePath(name); }
     void put(const QString& file, const QString& name)
     {
+        QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
         QVERIFY2(QFile::copy(file, path(name)), qPrintable(file));
     }
     void run(const QString& steps, const QString& folder = QDir::rootPath());
@@ -103,7 +105,8 @@ void NativeModuleTest::mayBeMissing_data()
     const QString absent = "%1: cannot open shared object file: No such file or directory";
     QTest::newRow("absent") << ""
                             << "" << absent;
-    QTest::newRow("of another version") << VY_MODULE << "libVyFileDialogsNative-0.9.9.so" << absent;
+    QTest::newRow("of another version")
+        << VY_MODULE << moduleFolder + "libVyFileDialogsNative-0.9.9.so" << absent;
     QTest::newRow("empty") << "/dev/null" << moduleName << "%1: file too short";
     QTest::newRow("damaged") << QFINDTESTDATA("NativeModuleTest.cpp") << moduleName
                              << "%1: invalid ELF header";
@@ -123,7 +126,7 @@ void NativeModuleTest::mayBeMissing()
     QFETCH(QString, name);
     QFETCH(QString, reason);
     if (file == "/")
-        QVERIFY(QDir().mkdir(path(name)));
+        QVERIFY(QDir().mkpath(path(name)));
     else if (!file.isEmpty())
         put(file, name);
 

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# unload.sh HOST FOLDER PLUGIN LIBRARY...: a host unloads its plug-in after it has
+# unload.sh HOST FOLDER MODULE PLUGIN LIBRARY...: a host unloads its plug-in after it has
 # shown both dialogs, and does so again. GNUstep is at work all the while.
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/lib.sh"
-mkdir "$out/lib"
-cp "${@:3}" "$out/lib"
+mkdir -p "$out/lib/VyFileDialogs"
+cp "$3" "$out/lib/VyFileDialogs"
+cp "${@:4}" "$out/lib"
 
-"$program" "$out/lib/${3##*/}" load qt native unload load native qt unload modules \
+"$program" "$out/lib/${4##*/}" load qt native unload load native qt unload modules \
     >"$out/answer" 2>"$out/errors" &
 dialog=$!
 before='qt -5002'
