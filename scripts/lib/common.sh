@@ -35,6 +35,7 @@ need_packages() {
 build_packages=(cmake ninja-build g++ clang qtbase5-dev qttools5-dev qttools5-dev-tools libqt5x11extras5-dev zlib1g-dev libx11-dev
     libgnustep-gui-dev gnustep-back0.29-cairo gnustep-make gnustep-base-runtime gnustep-gui-runtime)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-dejavu-core)
-test_packages=(libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr mandoc binutils libqt5svg5
+package_packages=(dpkg-dev)
+test_packages=("${package_packages[@]}" lintian pkg-config libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr mandoc binutils libqt5svg5
     fonts-vlgothic valgrind qttranslations5-l10n qt5-xdgdesktopportal-platformtheme)
 benchmark_packages=(python3 binutils gnuplot-nox kdialog zenity yad)
