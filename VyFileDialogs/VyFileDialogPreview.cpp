@@ -37,5 +37,10 @@ void CVyFileDialogPreview::showScaled(int width)
     const int pictureWidth = width - 5;
     if (m_image.isNull() || pictureWidth <= 0)
         return;
-    setPixmap(QPixmap::fromImage(m_image.scaledToWidth(pictureWidth, Qt::FastTransformation)));
+    // As many of the screen's own pixels as there are behind that many of Qt's.
+    const qreal ratio = devicePixelRatioF();
+    QPixmap picture = QPixmap::fromImage(
+        m_image.scaledToWidth(qRound(pictureWidth * ratio), Qt::FastTransformation));
+    picture.setDevicePixelRatio(ratio);
+    setPixmap(picture);
 }

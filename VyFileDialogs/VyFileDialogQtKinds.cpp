@@ -19,10 +19,15 @@ QDialogButtonBox* buttonBox(const QWidget* widget)
     return widget->findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
 }
 
+// To those who cannot see it the menu is called as the panels' popup of modes.
 QMenu* modeMenu(QWidget* widget)
 {
     auto* menu = new QMenu(widget);
     menu->setObjectName(QStringLiteral("modeMenu"));
+    QString name = QCoreApplication::translate("CVyFileDialogs", "Open mode:");
+    while (!name.isEmpty() && !name.back().isLetterOrNumber())
+        name.chop(1);
+    menu->setAccessibleName(name);
     return menu;
 }
 
