@@ -5,6 +5,9 @@
 
 #include <vector>
 
+/// \file
+/// The code pages of drawings, as a list.
+
 /// Code pages that a drawing's text can be in. The values up to Ansi1258 are the
 /// numbers that DWG files store; the names are those of the DXF header variable
 /// $DWGCODEPAGE. Utf8 is behind them with a number of our own: no drawing stores
@@ -75,7 +78,7 @@ struct CVyCodePageRegion
 /// live as long as the library.
 struct CVyCodePage
 {
-    OdCodePageId id;
+    OdCodePageId id;                 ///< never OdCodePageId::Undefined
     const CVyCodePageRegion* region; ///< one object for all pages of a region; never null
     /// What a drafter calls it, "Japanese Shift-JIS (Windows)": English, and the
     /// key of its translation in the context "CVyDlgEncoding".

@@ -5,6 +5,9 @@
 
 #include <QWidget>
 
+/// \file
+/// The lock on the application's windows.
+
 /// Keeps the application's windows from reacting to the user for as long as the
 /// lock is held: they take no clicks, keys, composed text, wheel, drops,
 /// shortcuts, tool tips or close requests, QWidget::close() among them. It makes

@@ -14,6 +14,9 @@ class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
+/// \file
+/// The dialog behind "Open with Encoding...".
+
 /// Asks the user in which code page to read a drawing's text, and whether to
 /// open it read-only.
 ///
@@ -44,6 +47,7 @@ public:
     bool IsReadOnly() const;
 
 protected:
+    /// Leads keys from the search to the list and back.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:

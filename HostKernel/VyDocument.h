@@ -6,6 +6,9 @@
 #include <QPointer>
 #include <QWidget>
 
+/// \file
+/// The active document.
+
 /// A drawing that the host has open, as far as the dialogs know it.
 class VY_HOSTKERNEL_EXPORT CVyDocument
 {

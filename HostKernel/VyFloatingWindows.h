@@ -7,6 +7,9 @@
 
 class VyFloatingWindowsHold;
 
+/// \file
+/// The tool windows around a native panel.
+
 /// What one HideFloatingWindows() keeps hidden. Its copies are one token; the
 /// null token keeps nothing hidden.
 ///

@@ -5,6 +5,9 @@
 
 #include "VyHostKernelExport.h"
 
+/// \file
+/// The bookmarks of opened files, for the native panels.
+
 /// The native panels' way to the host's list of the files that the user chose
 /// (VyBookmarks.h). On the main thread alone.
 VY_HOSTKERNEL_EXPORT

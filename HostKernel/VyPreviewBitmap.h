@@ -5,6 +5,9 @@
 
 #include <QImage>
 
+/// \file
+/// The picture that a file carries.
+
 /// Reads the preview picture that a file carries: the one that was stored in a
 /// DWG or DXF drawing or template, or what a PNG, JPEG, BMP or SVG file shows. Which
 /// of them a file is, is told by its content; but a picture that is named like a

@@ -9,6 +9,9 @@
 #include <utility>
 #include <vector>
 
+/// \file
+/// The host's string.
+
 /// The host's string: a value of wide characters, one character of Unicode an
 /// element.
 ///
@@ -23,14 +26,19 @@
 class VY_HOSTKERNEL_EXPORT CVyString
 {
 public:
+    /// The empty string.
     CVyString() = default;
     /// Copies \a text up to its terminating zero; null gives the empty string.
     CVyString(const wchar_t* text); // NOLINT(google-explicit-constructor)
+    /// Copies \a text, zeros inside it too.
     CVyString(const QString& text); // NOLINT(google-explicit-constructor)
 
+    /// The same text, zeros inside it too.
     operator QString() const; // NOLINT(google-explicit-constructor)
 
+    /// Whether it has no characters.
     bool isEmpty() const { return m_text.empty(); }
+    /// The number of its characters.
     int getLength() const { return static_cast<int>(m_text.size()); }
     /// The characters with a terminating zero; valid until the string changes.
     const wchar_t* c_str() const { return m_text.c_str(); }
@@ -61,10 +69,14 @@ public:
     /// case folding, independent of the locale).
     bool equalNoCase(const CVyString& other) const;
 
+    /// Appends \a other, which may be this string.
     CVyString& operator+=(const CVyString& other);
 
+    /// Both texts, one behind the other.
     friend CVyString operator+(CVyString left, const CVyString& right) { return left += right; }
+    /// Whether both hold the same characters.
     friend bool operator==(const CVyString& a, const CVyString& b) { return a.m_text == b.m_text; }
+    /// Whether they differ.
     friend bool operator!=(const CVyString& a, const CVyString& b) { return !(a == b); }
 
 private:

@@ -5,6 +5,9 @@
 
 #include <optional>
 
+/// \file
+/// What the dialogs ask of their host.
+
 /// What the host knows about its user.
 class VY_HOSTKERNEL_EXPORT CVySystemSettings
 {
@@ -13,6 +16,7 @@ public:
     /// files without asking. Until the host sets one it is what the user has set
     /// in the environment or the settings file (VyHostSettings.h), else 0.
     int GetExpertLevel() const;
+    /// Sets the level.
     void SetExpertLevel(int level) { m_expertLevel = level; }
     /// Brings back what holds until the host sets a level.
     void ResetExpertLevel() { m_expertLevel.reset(); }
@@ -25,6 +29,7 @@ private:
 class VY_HOSTKERNEL_EXPORT CVySystemServices
 {
 public:
+    /// The settings of the user; they live as long as the services.
     CVySystemSettings& GetSettings() { return m_settings; }
 
     /// The folder of the drawing templates, shown when the user chooses a type

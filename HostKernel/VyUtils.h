@@ -3,6 +3,9 @@
 
 #include "VyString.h"
 
+/// \file
+/// Conversions that host and module share.
+
 /// Conversions that host and module share.
 struct VY_HOSTKERNEL_EXPORT CVyUtils
 {

@@ -3,6 +3,9 @@
 
 #include "VyHostKernelExport.h"
 
+/// \file
+/// The version of macOS.
+
 /// Questions about macOS.
 struct VY_HOSTKERNEL_EXPORT CVyUtilsMacNative
 {

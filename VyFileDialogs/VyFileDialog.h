@@ -13,6 +13,9 @@
 
 class CVyFileDialogImpl;
 
+/// \file
+/// The requests of a host.
+
 /// Asks the user for file names: the one header a host includes.
 ///
 ///     CVyFileDialog::Create();
@@ -75,11 +78,14 @@ public:
     ///                        is not the type's extension list gets that list
     ///                        appended.
     /// \param parentWindow    native identifier of the owning window (as
-    ///                        QWidget::winId() gives it); 0 for none
+    ///                        QWidget::winId() gives it); 0 for none. A native
+    ///                        panel belongs to the active window instead.
     /// \param type            request kind with qualifier bits
     /// \param title           window title; when saving without the mode-choices
     ///                        flag the Qt dialog shows "Save As" instead
-    /// \param defaultExtension suffix given to names typed without one
+    /// \param defaultExtension suffix given to names typed without one, without
+    ///                        a dot. A native panel gives none; without \a typeIndex
+    ///                        it chooses the type to start with.
     /// \param filter          the file types, see CVyUtils::ConvertToQtFilter()
     /// \param defaultPath     a folder, a file, or a path that need not exist:
     ///                        start folder and preset file name; empty for none
@@ -110,16 +116,17 @@ public:
                 CVyUserIO::_FileNameFlags flags, OdCodePageId** codePage);
 
     /// Asks for one or more paths: an open request lets the user choose several
-    /// files. As GetFileName(), except that
+    /// files. As GetFileName(), except that saved paths get no extension, a
+    /// template name is not preset as file name, and the working directory is left
+    /// as the dialog leaves it.
     ///
     /// \param paths  out, must not be null: the chosen paths are appended in the
     ///               dialog's order; what the vector holds stays
+    /// \param mode,parentWindow,type,title,defaultExtension  as in GetFileName()
+    /// \param filter,defaultPath,typeIndex,templateName,flags,codePage  the same
     ///
-    /// \return after an accepted dialog, VyStatus::NothingSelected when it had
-    /// no selection
-    ///
-    /// and that saved paths get no extension, a template name is not preset as
-    /// file name, and the working directory is left as the dialog leaves it.
+    /// \return as GetFileName(), but after an accepted dialog
+    /// VyStatus::NothingSelected when it had no selection
     VY_FILEDIALOGS_EXPORT static int
     GetFileNames(CVyUserIO::_FileNameRetVal* mode, std::vector<CVyString>* paths,
                  unsigned long long parentWindow, CVyUserIO::_FileNameType type,

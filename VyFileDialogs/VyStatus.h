@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+/// \file
+/// The statuses of requests.
+
 /// What a request, and every operation of a back-end, answers: a plain int.
 namespace VyStatus {
 
