@@ -36,6 +36,6 @@ build_packages=(cmake ninja-build g++ clang qtbase5-dev qttools5-dev qttools5-de
     libgnustep-gui-dev gnustep-back0.29-cairo gnustep-make gnustep-base-runtime gnustep-gui-runtime)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-dejavu-core)
 package_packages=(dpkg-dev)
-test_packages=("${package_packages[@]}" lintian pkg-config libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr mandoc binutils libqt5svg5
+test_packages=("${package_packages[@]}" lintian pkg-config doxygen python3 libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr mandoc binutils libqt5svg5
     fonts-vlgothic valgrind qttranslations5-l10n qt5-xdgdesktopportal-platformtheme)
 benchmark_packages=(python3 binutils gnuplot-nox kdialog zenity yad)
