@@ -21,11 +21,13 @@ private Q_SLOTS:
     void indexes();
     void saves_data() { m_tables.addRows(QStringLiteral("Patterns")); }
     void saves();
+    void defaultExtensions_data() { m_tables.addRows(QStringLiteral("Default extension")); }
+    void defaultExtensions();
 
 private:
-    HostRequest saved(const QString& filter, int typeIndex, const QString& name,
-                      QString* preselected = nullptr) const;
+    HostRequest saveRequest(const QString& filter, int typeIndex = 0) const;
     QString nameOf(const HostRequest& request) const;
+    QString savedName(HostRequest request, const QString& typed) const;
 
     const DocumentTables m_tables{QStringLiteral(VY_FILTER_STRINGS)};
     const QTemporaryDir m_folder;
@@ -35,30 +37,30 @@ private:
 void FilterTableTest::initTestCase()
 {
     CVyFileDialog::SetStyle(CVyFileDialog::StyleQt);
-    const QRegularExpression unread(QStringLiteral("^\\| (?!Filter string|Types|Patterns|---|`)"));
+    const QRegularExpression unread(
+        QStringLiteral("^\\| (?!Filter string|Types|Patterns|Default extension|---|`)"));
     QCOMPARE(m_tables.lines().filter(unread), QStringList());
 }
 
-// A save request in which the user types a name.
-HostRequest FilterTableTest::saved(const QString& filter, int typeIndex, const QString& name,
-                                   QString* preselected) const
+HostRequest FilterTableTest::saveRequest(const QString& filter, int typeIndex) const
 {
     HostRequest request;
     request.type = CVyUserIO::FileNameSave;
     request.filter = filter;
     request.typeIndex = typeIndex;
     request.start = m_folder.path();
-    request.getFileName({onFileDialog([&](QFileDialog& dialog) {
-        if (preselected)
-            *preselected = dialog.selectedNameFilter();
-        typeAndAccept(dialog, name);
-    })});
     return request;
 }
 
 QString FilterTableTest::nameOf(const HostRequest& request) const
 {
     return QDir(m_folder.path()).relativeFilePath(request.paths.value(0));
+}
+
+QString FilterTableTest::savedName(HostRequest request, const QString& typed) const
+{
+    request.getFileName({onFileDialog([&](QFileDialog& dialog) { typeAndAccept(dialog, typed); })});
+    return nameOf(request);
 }
 
 void FilterTableTest::types()
@@ -78,18 +80,19 @@ void FilterTableTest::types()
     QStringList names;
     const int count = VyFileTypeList::entries(types.qtFilter).size();
     for (int index = 0; index < count; ++index)
-        names += nameOf(saved(filter, index, QStringLiteral("plan")));
+        names += savedName(saveRequest(filter, index), QStringLiteral("plan"));
     QCOMPARE(names, DocumentTables::codes(cells.value(3)));
 }
 
 void FilterTableTest::indexes()
 {
     QFETCH(QStringList, cells);
-    QString preselected;
-    const HostRequest request =
-        saved(DocumentTables::code(cells.value(0)), DocumentTables::code(cells.value(1)).toInt(),
-              QStringLiteral("plan"), &preselected);
-    QCOMPARE(preselected, DocumentTables::code(cells.value(2)));
+    HostRequest request = saveRequest(DocumentTables::code(cells.value(0)),
+                                      DocumentTables::code(cells.value(1)).toInt());
+    request.getFileName({onFileDialog([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.selectedNameFilter(), DocumentTables::code(cells.value(2)));
+        typeAndAccept(dialog, QStringLiteral("plan"));
+    })});
     QCOMPARE(QString::number(request.typeIndex), DocumentTables::code(cells.value(3)));
     QCOMPARE(nameOf(request), DocumentTables::code(cells.value(4)));
 }
@@ -97,9 +100,18 @@ void FilterTableTest::indexes()
 void FilterTableTest::saves()
 {
     QFETCH(QStringList, cells);
-    const QString filter = QStringLiteral("Type&") + DocumentTables::code(cells.value(0));
-    const HostRequest request = saved(filter, 0, DocumentTables::code(cells.value(1)));
-    QCOMPARE(nameOf(request), DocumentTables::code(cells.value(2)));
+    const HostRequest request = saveRequest("Type&" + DocumentTables::code(cells.value(0)));
+    QCOMPARE(savedName(request, DocumentTables::code(cells.value(1))),
+             DocumentTables::code(cells.value(2)));
+}
+
+void FilterTableTest::defaultExtensions()
+{
+    QFETCH(QStringList, cells);
+    HostRequest request = saveRequest("Type&" + DocumentTables::code(cells.value(1)));
+    request.defaultExtension = DocumentTables::code(cells.value(0));
+    QCOMPARE(savedName(request, DocumentTables::code(cells.value(2))),
+             DocumentTables::code(cells.value(3)));
 }
 
 QTEST_MAIN(FilterTableTest)
