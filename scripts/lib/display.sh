@@ -67,20 +67,23 @@ active_window_is() {
         $(xdotool getwindowfocus getwindowname 2>/dev/null) == "$1" ]]
 }
 
-# Waits, as a person does, until the screen has stopped changing: six looks, one
-# like the other. They take longer on a busy machine, as what they wait for does.
+# Waits, as a person does, until the screen has stopped changing: six looks, one like
+# the other. They take longer on a busy machine, as what they wait for does; where they
+# take so long that a caret blinks between them, twelve at the same two pictures will do.
 settle() {
-    local looks=1 tries=1200 before now
+    local looks=1 of_two=1 tries=1200 before other='' now
     before=$(screen_sum)
-    while ((looks < 6)); do
+    while ((looks < 6 && of_two < 12)); do
         ((tries-- > 0)) || {
             printf 'a quiet screen did not come\n' >&2
             return 1
         }
         sleep 0.05
         now=$(screen_sum)
-        [[ $now == "$before" ]] && ((++looks)) || looks=1
+        [[ $now == "$before" || $now == "$other" ]] || of_two=0
+        [[ $now == "$before" ]] || looks=0 other=$before
         before=$now
+        ((++looks, ++of_two))
     done
 }
 # The server keeps the screen in a file: a picture asked of it takes ten times as long.
