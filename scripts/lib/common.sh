@@ -32,10 +32,13 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(cmake ninja-build g++ clang qtbase5-dev qttools5-dev qttools5-dev-tools libqt5x11extras5-dev zlib1g-dev libx11-dev
-    libgnustep-gui-dev gnustep-back0.29-cairo gnustep-make gnustep-base-runtime gnustep-gui-runtime)
+build_packages=(cmake ninja-build g++ clang qtbase5-dev qttools5-dev qttools5-dev-tools
+    libqt5x11extras5-dev zlib1g-dev libx11-dev libgnustep-gui-dev gnustep-back0.29-cairo
+    gnustep-make gnustep-base-runtime gnustep-gui-runtime)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils fonts-dejavu-core)
 package_packages=(dpkg-dev)
-test_packages=("${package_packages[@]}" lintian pkg-config doxygen python3 libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr mandoc binutils libqt5svg5
-    fonts-vlgothic valgrind qttranslations5-l10n qt5-xdgdesktopportal-platformtheme)
+test_packages=("${package_packages[@]}" libclang-rt-dev lld llvm cppcheck clang-tidy clazy gcovr
+    mandoc doxygen python3 binutils lintian pkg-config libqt5svg5 fonts-vlgothic valgrind
+    qttranslations5-l10n qt5-xdgdesktopportal-platformtheme)
 benchmark_packages=(python3 binutils gnuplot-nox kdialog zenity yad)
+gallery_packages=(qttranslations5-l10n qt5ct fonts-wqy-zenhei optipng)
