@@ -8,8 +8,8 @@ prefix=$program sources=$3 compiler=$4
 cp "$sources"/examples/drawings/*.dxf "$plans"
 cp "$sources"/examples/templates/*.dwt "$plans"
 
-# code LANGUAGE: the README's block of that language.
-code() { sed -n "/^\`\`\`$1 host\$/,/^\`\`\`\$/p" "$sources/README.md" | sed '1d;$d'; }
+# code LANGUAGE FILE: writes the README's program in that language.
+code() { python3 "$sources/tests/documents/code_blocks.py" extract "$1" README.md "$2"; }
 
 # build NAME: with CMake's package
 build() {
@@ -26,9 +26,8 @@ run() {
 }
 
 mkdir -p "$out/readme-host"
-code cpp >"$out/readme-host/main.cpp"
-code cmake >"$out/readme-host/CMakeLists.txt"
-[[ -s $out/readme-host/main.cpp ]] || fail 'the README has no host'
+code cpp "$out/readme-host/main.cpp"
+code cmake "$out/readme-host/CMakeLists.txt"
 build readme-host
 run "$out/readme-host/build/host" 'Open Drawing'
 write gear.dxf
