@@ -55,6 +55,7 @@ private Q_SLOTS:
     void keepsTheFileWhenTheUserSaysNo();
     void typeChangeAdaptsTheName_data();
     void typeChangeAdaptsTheName();
+    void firstTypeAdaptsTheName();
     void sameTypeAgainKeepsTheName();
     void typesOfOneNameKeepTheName();
     void typeChangeThenSave();
@@ -208,6 +209,20 @@ void SaveDialogTest::typeChangeAdaptsTheName()
         typeName(dialog, typed);
         chooseType(dialog, type);
         QCOMPARE(dialog.findChild<QLineEdit*>()->text(), shown);
+        dialog.reject();
+    })});
+}
+
+void SaveDialogTest::firstTypeAdaptsTheName()
+{
+    const DrawingFolder folder;
+    HostRequest request = saveRequest(folder.path());
+    request.filter = "Drawing&*.dwg&Exchange&*.dxf";
+    request.typeIndex = 1;
+    request.getFileName({onFileDialog([](QFileDialog& dialog) {
+        typeName(dialog, "plan.dxf");
+        chooseType(dialog, 0);
+        QCOMPARE(dialog.findChild<QLineEdit*>()->text(), QString("plan.dwg"));
         dialog.reject();
     })});
 }
