@@ -52,6 +52,17 @@ void removeUpTo(const QDateTime& time, QList<VyBookmarkEntry>& entries)
                   entries.end());
 }
 
+// Those that were chosen again later stay.
+void dropRemoved(const QList<VyBookmark>& removed, QList<VyBookmarkEntry>& entries)
+{
+    const auto isRemoved = [&removed](const VyBookmarkEntry& entry) {
+        return std::any_of(removed.begin(), removed.end(), [&entry](const VyBookmark& each) {
+            return vyIsSamePath(entry.bookmark, each) && entry.bookmark.chosen <= each.chosen;
+        });
+    };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isRemoved), entries.end());
+}
+
 } // namespace
 
 CVyBookmarkList::CVyBookmarkList(const QString& file)
@@ -81,6 +92,16 @@ void CVyBookmarkList::add(const VyBookmark& bookmark)
     update([this, &entry] {
         entry.bookmark.chosen = timeOfChoice();
         put(entry);
+    });
+}
+
+void CVyBookmarkList::remove(const VyBookmark& bookmark)
+{
+    update([this, &bookmark] {
+        const VyBookmark removed{bookmark.path, timeOfChoice(), bookmark.bytes};
+        dropRemoved({removed}, m_entries);
+        dropRemoved({removed}, m_unsaved);
+        m_removed.append(removed);
     });
 }
 
@@ -157,6 +178,7 @@ bool CVyBookmarkList::update(const std::function<void()>& change)
     if (problem.isEmpty()) {
         m_unsaved.clear();
         m_cleared = {};
+        m_removed.clear();
         m_warnings.clear();
         return true;
     }
@@ -204,6 +226,7 @@ void CVyBookmarkList::takeOver(const VyBookmarkFormat::Contents& contents)
     if (!contents.damage.isEmpty())
         known = vyMergedEntries(known, m_entries);
     removeUpTo(m_cleared, known);
+    dropRemoved(m_removed, known);
     m_entries = vyMergedEntries(m_unsaved, known);
 }
 

@@ -25,6 +25,8 @@ public:
     QList<VyBookmark> bookmarks();
     /// \a bookmark needs no time yet.
     void add(const VyBookmark& bookmark);
+    /// \a bookmark is found by its path.
+    void remove(const VyBookmark& bookmark);
     void clear();
 
     /// Where the file of \a bookmark is now; with an empty path where it was not
@@ -48,5 +50,6 @@ private:
     QList<VyBookmarkEntry> m_entries;
     QList<VyBookmarkEntry> m_unsaved; ///< of m_entries, those that are not in the file
     QDateTime m_cleared;              ///< when, unless that is in the file
+    QList<VyBookmark> m_removed;      ///< with the time of that, unless it is in the file
     QSet<QString> m_warnings;         ///< since the file was last written
 };

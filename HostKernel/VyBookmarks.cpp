@@ -87,6 +87,11 @@ void VyAddBookmarkOfBytes(const QByteArray& path)
     list().add(vyBookmarkOfBytes(path));
 }
 
+void VyRemoveBookmark(const VyBookmark& bookmark)
+{
+    list().remove(bookmark);
+}
+
 void VyClearBookmarks()
 {
     list().clear();

@@ -142,6 +142,10 @@ VY_HOSTKERNEL_EXPORT void VyAddBookmark(const QString& path);
 /// 8192 bytes.
 VY_HOSTKERNEL_EXPORT void VyAddBookmarkOfBytes(const QByteArray& path);
 
+/// Takes the file of \a bookmark out of the list and its file, whenever it was
+/// chosen. One that is not in the list is ignored.
+VY_HOSTKERNEL_EXPORT void VyRemoveBookmark(const VyBookmark& bookmark);
+
 /// Empties the list and its file. What was kept of damaged files stays.
 VY_HOSTKERNEL_EXPORT void VyClearBookmarks();
 

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void goesOnInMemory_data();
     void goesOnInMemory();
     void survivesAFullDisk();
+    void removesWhenThereIsRoom();
     void keepsADamagedFileOnAFullDisk();
     void waitsForOthersBriefly();
     void ignoresAStaleLock_data();
@@ -131,6 +132,30 @@ void BookmarkObstacleTest::survivesAFullDisk()
     add(list, "/c");
     QCOMPARE(storedPaths().mid(0, 4), QStringList({"/c", "/b", "/a", numbered(30)}));
     QCOMPARE(storedPaths().size(), 33);
+}
+
+// What was removed meanwhile does not come back, but for what another process has
+// chosen again.
+void BookmarkObstacleTest::removesWhenThereIsRoom()
+{
+    CVyBookmarkList list(store());
+    CVyBookmarkList other(store());
+    for (int number = 1; number <= 30; ++number)
+        add(list, numbered(number));
+    const QByteArray text = textOf(store());
+    {
+        const FullDisk disk(1000);
+        list.remove({numbered(30), {}, {}});
+        list.remove({numbered(29), {}, {}});
+        QCOMPARE(paths(list).mid(0, 1), QStringList(numbered(28)));
+        QCOMPARE(textOf(store()), text);
+        QVERIFY(takeMessages().join(";").contains("the list goes on in memory: "));
+    }
+    QTest::qWait(5);
+    add(other, numbered(29));
+    add(list, "/a");
+    QCOMPARE(storedPaths().mid(0, 3), QStringList({"/a", numbered(29), numbered(28)}));
+    QCOMPARE(storedPaths().size(), 30);
 }
 
 void BookmarkObstacleTest::keepsADamagedFileOnAFullDisk()

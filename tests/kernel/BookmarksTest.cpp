@@ -63,6 +63,9 @@ private Q_SLOTS:
     void knowWhen();
     void knowTheLastTime();
     void areHandedOutAsACopy();
+    void areRemoved_data();
+    void areRemoved();
+    void areAddedAgain();
     void areCleared();
 };
 
@@ -238,6 +241,35 @@ void BookmarksTest::areHandedOutAsACopy()
     addNumbered(2);
     QCOMPARE(copy.size(), 1);
     copy.first().path = "/plans/changed.dwg";
+    QCOMPARE(paths(), countdown(2, 1));
+}
+
+void BookmarksTest::areRemoved_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QStringList>("list");
+
+    QTest::newRow("the first") << numbered(3) << QStringList{numbered(2), numbered(1)};
+    QTest::newRow("in the middle") << numbered(2) << QStringList{numbered(3), numbered(1)};
+    QTest::newRow("the last") << numbered(1) << QStringList{numbered(3), numbered(2)};
+    QTest::newRow("none") << numbered(4) << countdown(3, 1);
+}
+
+void BookmarksTest::areRemoved()
+{
+    QFETCH(QString, path);
+    QFETCH(QStringList, list);
+
+    addNumbered(3);
+    VyRemoveBookmark({path, {}, {}});
+    QCOMPARE(paths(), list);
+}
+
+void BookmarksTest::areAddedAgain()
+{
+    addNumbered(2);
+    VyRemoveBookmark(VyBookmarks().constFirst());
+    VyAddBookmark(numbered(2));
     QCOMPARE(paths(), countdown(2, 1));
 }
 
