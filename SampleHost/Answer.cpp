@@ -5,25 +5,6 @@
 
 namespace {
 
-const char* modeName(CVyUserIO::_FileNameRetVal mode)
-{
-    switch (mode) {
-    case CVyUserIO::NewFromTemplate:
-        return "new-from-template";
-    case CVyUserIO::NewImperial:
-        return "new-imperial";
-    case CVyUserIO::NewMetric:
-        return "new-metric";
-    case CVyUserIO::Open:
-        return "open";
-    case CVyUserIO::OpenReadOnly:
-        return "open-read-only";
-    case CVyUserIO::Save:
-        return "save";
-    }
-    return nullptr;
-}
-
 QString escaped(QChar unit)
 {
     return QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
@@ -80,6 +61,41 @@ QByteArray listed(const QStringList& paths, char end)
 }
 
 } // namespace
+
+const char* modeName(CVyUserIO::_FileNameRetVal mode)
+{
+    switch (mode) {
+    case CVyUserIO::NewFromTemplate:
+        return "new-from-template";
+    case CVyUserIO::NewImperial:
+        return "new-imperial";
+    case CVyUserIO::NewMetric:
+        return "new-metric";
+    case CVyUserIO::Open:
+        return "open";
+    case CVyUserIO::OpenReadOnly:
+        return "open-read-only";
+    case CVyUserIO::Save:
+        return "save";
+    }
+    return nullptr;
+}
+
+const char* statusName(int status)
+{
+    switch (status) {
+    case VyStatus::Accepted:
+        return "accepted";
+    case VyStatus::NothingSelected:
+        return "nothing-selected";
+    case VyStatus::Failed:
+        return "failed";
+    case VyStatus::Cancelled:
+        return "cancelled";
+    default:
+        return nullptr;
+    }
+}
 
 ExitStatus exitStatus(int status)
 {

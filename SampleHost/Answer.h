@@ -13,7 +13,14 @@ struct Answer
     QStringList paths;
     std::optional<int> typeIndex;                    ///< of the chosen type, when there is one
     OdCodePageId codePage = OdCodePageId::Undefined; ///< when one was chosen
+    std::optional<QString> templateName;             ///< as it came back, when one was given
 };
+
+/// The name of a mode, "open-read-only"; null for other numbers.
+const char* modeName(CVyUserIO::_FileNameRetVal mode);
+
+/// The name of a value of VyStatus, "accepted"; null for other numbers.
+const char* statusName(int status);
 
 /// How a process tells what became of it.
 enum ExitStatus : int

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
-#include "HostPlatform.h"
+#include "StyleOption.h"
 #include "VyUtils.h"
 
 #include <QCommandLineParser>
@@ -41,17 +41,6 @@ constexpr OptionText OptionTexts[] = {
     {"version", "Print the version.", ""},
 };
 
-struct StyleName
-{
-    const char* name;
-    CVyFileDialog::_Style style;
-};
-
-constexpr StyleName Styles[] = {
-    {"qt", CVyFileDialog::StyleQt},
-    {"native", CVyFileDialog::StyleNative},
-};
-
 struct RequestName
 {
     const char* name;
@@ -75,15 +64,6 @@ constexpr QualifierName Qualifiers[] = {
     {"open-only", CVyUserIO::FileNameOpenOnly},
     {"no-template-folder", CVyUserIO::FileNameNoTemplateFolder},
 };
-
-const char* defaultStyleName()
-{
-    const auto* found =
-        std::find_if(std::begin(Styles), std::end(Styles), [](const StyleName& each) {
-            return each.style == HostPlatform::defaultStyle();
-        });
-    return found->name;
-}
 
 void configure(QCommandLineParser& parser)
 {
@@ -139,17 +119,7 @@ QString readStartPath(const QCommandLineParser& parser, Options& options)
 
 QString readStyle(const QCommandLineParser& parser, Options& options)
 {
-    options.style = HostPlatform::defaultStyle();
-    const std::optional<QString> name = valueOf(parser, "style");
-    if (!name)
-        return {};
-    const auto* found =
-        std::find_if(std::begin(Styles), std::end(Styles),
-                     [&](const StyleName& each) { return *name == QLatin1String(each.name); });
-    if (found == std::end(Styles))
-        return QStringLiteral("--style: '%1' is no style: qt or native").arg(*name);
-    options.style = found->style;
-    return {};
+    return StyleOption::read(parser, options.style);
 }
 
 // Whether a type with these patterns has an extension, in the module's reading:
@@ -288,11 +258,7 @@ Parsed parse(const QStringList& arguments)
 
 QList<QCommandLineOption> options()
 {
-    QList<QCommandLineOption> list;
-    list.append({QStringLiteral("style"),
-                 QStringLiteral("Which dialog to show: qt or native (without it: %1).")
-                     .arg(QLatin1String(defaultStyleName())),
-                 QStringLiteral("style")});
+    QList<QCommandLineOption> list{StyleOption::option()};
     for (const OptionText& each : OptionTexts)
         list.append({QString::fromLatin1(each.names).split(QLatin1Char(',')),
                      QString::fromLatin1(each.description), QString::fromLatin1(each.valueName)});

@@ -37,8 +37,8 @@ struct Options
     QString title;
     QString defaultExtension;
     QString startPath;
-    QString templateFolder;    ///< empty for the library's own
-    unsigned parentWindow = 0; ///< 0 for none
+    QString templateFolder;              ///< empty for the library's own
+    unsigned long long parentWindow = 0; ///< 0 for none
     std::optional<int> expertLevel;
     std::optional<QString> filter;
     std::optional<QString> templateName;

@@ -48,6 +48,8 @@ Answer request(GetPaths<Paths> get, Paths& paths, const Options& options)
         answer.typeIndex = typeIndex;
     if (codePage)
         answer.codePage = *codePage;
+    if (options.templateName)
+        answer.templateName = templateName;
     return answer;
 }
 

@@ -7,10 +7,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace {
+const char* name = "";
+}
+
 namespace StandardStreams {
 
-bool prepare()
+bool prepare(const char* program)
 {
+    name = program;
     std::signal(SIGPIPE, SIG_IGN);
     int fd = open("/dev/null", O_RDONLY);
     while (fd >= 0 && fd <= STDERR_FILENO)
@@ -30,7 +35,7 @@ bool print(const QByteArray& bytes)
 
 void say(const QString& text)
 {
-    QString line = QLatin1String("vyfiledialog: ") + text;
+    QString line = QLatin1String(name) + QLatin1String(": ") + text;
     for (QChar& each : line) {
         if (each.category() == QChar::Other_Control)
             each = QLatin1Char('?');

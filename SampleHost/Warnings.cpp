@@ -2,36 +2,17 @@
 #include "Warnings.h"
 
 #include "Answer.h"
+#include "FileTypes.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-#include <vector>
-
 namespace {
-
-struct FileType
-{
-    QString description;
-    QString patterns;
-};
-
-std::vector<FileType> typesOf(const QString& filter)
-{
-    const QStringList fields = filter.split(QLatin1Char('&'));
-    std::vector<FileType> types;
-    for (int i = 0; i < fields.size(); i += 2) {
-        const FileType type{fields.at(i), fields.value(i + 1)};
-        if (!type.description.isEmpty() || !type.patterns.isEmpty())
-            types.push_back(type);
-    }
-    return types;
-}
 
 QStringList aboutFilter(const QString& filter)
 {
     QStringList lines;
-    const std::vector<FileType> types = typesOf(filter);
+    const std::vector<FileType> types = fileTypes(filter);
     if (types.empty())
         lines.append(QStringLiteral("the filter names no file type"));
     for (const FileType& type : types) {
@@ -47,7 +28,7 @@ QStringList aboutFilter(const QString& filter)
 
 QStringList aboutTypeIndex(int index, const QString& filter)
 {
-    const int count = static_cast<int>(typesOf(filter).size());
+    const int count = static_cast<int>(fileTypes(filter).size());
     if (index >= 0 && index < count)
         return {};
     return {QStringLiteral("there is no file type with index %1; the filter has %2")

@@ -359,7 +359,7 @@ void CommandLineTest::windowNumbers()
     const Parsed result = parsed({"open", "--parent", text});
     if (good) {
         QCOMPARE(result.error, QString());
-        QTEST(result.options.parentWindow, "value");
+        QTEST(unsigned(result.options.parentWindow), "value");
     } else {
         QCOMPARE(
             result.error,
