@@ -67,9 +67,16 @@ endfunction()
 # is installed itself, wherever both are moved to.
 function(vy_program name)
     vy_product(${name})
-    file(RELATIVE_PATH libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
+    set(folder ${CMAKE_INSTALL_BINDIR})
+    get_target_property(is_bundle ${name} MACOSX_BUNDLE)
+    if(APPLE AND is_bundle)
+        string(APPEND folder /${name}.app/Contents/MacOS)
+    endif()
+    file(RELATIVE_PATH libraries /${folder} /${CMAKE_INSTALL_LIBDIR})
     set_target_properties(${name} PROPERTIES INSTALL_RPATH ${vy_origin}/${libraries})
-    install(TARGETS ${name} RUNTIME COMPONENT tools)
+    install(TARGETS ${name}
+        RUNTIME COMPONENT tools
+        BUNDLE DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 endfunction()
 
 # vy_install_library(<name> <name in packages> <header>...): installs it with what a
