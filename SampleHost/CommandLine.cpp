@@ -232,21 +232,28 @@ void readTexts(const QCommandLineParser& parser, Options& options)
 
 } // namespace
 
+QString read(QCommandLineParser& parser, const QStringList& arguments, Options::Action& action)
+{
+    if (!parser.parse(arguments)) {
+        QString error = parser.errorText();
+        error.chop(1); // the full stop
+        return error;
+    }
+    if (parser.isSet(QStringLiteral("help")))
+        action = Options::Action::Help;
+    else if (parser.isSet(QStringLiteral("version")))
+        action = Options::Action::Version;
+    return {};
+}
+
 Parsed parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     configure(parser);
     Parsed parsed;
-    if (!parser.parse(arguments)) {
-        parsed.error = parser.errorText();
-        parsed.error.chop(1); // the full stop
+    parsed.error = read(parser, arguments, parsed.options.action);
+    if (!parsed.error.isEmpty() || parsed.options.action != Options::Action::Ask)
         return parsed;
-    }
-    const bool help = parser.isSet(QStringLiteral("help"));
-    if (help || parser.isSet(QStringLiteral("version"))) {
-        parsed.options.action = help ? Options::Action::Help : Options::Action::Version;
-        return parsed;
-    }
     readTexts(parser, parsed.options);
     for (const auto read : {readRequest, readStartPath, readStyle, readFilter, readForm,
                             readTypeIndex, readExpertLevel, readParent}) {

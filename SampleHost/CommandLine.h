@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class QCommandLineParser;
+
 /// What the user of the command wants.
 struct Options
 {
@@ -59,6 +61,10 @@ struct Parsed
 /// error the options mean nothing. With --help or --version nothing else is
 /// required or looked at.
 Parsed parse(const QStringList& arguments);
+
+/// Has \a parser read \a arguments, for any program with --help and --version:
+/// \a action becomes what these ask for, or stays. Answers what is wrong, or nothing.
+QString read(QCommandLineParser& parser, const QStringList& arguments, Options::Action& action);
 
 /// Every option that parse() knows.
 QList<QCommandLineOption> options();

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 MostBytes = 256 * 1024 * 1024; // which this sample holds in memory
+constexpr qint64 MostBytes = qint64{256} * 1024 * 1024; // which this sample holds in memory
 
 QImage pictureIn(const QString& path)
 {

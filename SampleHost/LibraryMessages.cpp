@@ -10,19 +10,24 @@ namespace {
 const QLatin1String Beginning("VyFileDialogs: ");
 
 QtMessageHandler previous;
-QMutex mutex; // any thread may say something
 
-QString& lastMessage()
+struct Message
 {
-    static QString text;
-    return text;
+    QMutex mutex; // any thread may say something
+    QString text;
+};
+
+Message& lastMessage()
+{
+    static Message message;
+    return message;
 }
 
 void onMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (message.startsWith(Beginning)) {
-        const QMutexLocker locker(&mutex);
-        lastMessage() = message.mid(Beginning.size());
+        const QMutexLocker locker(&lastMessage().mutex);
+        lastMessage().text = message.mid(Beginning.size());
     }
     previous(type, context, message);
 }
@@ -31,7 +36,7 @@ void onMessage(QtMsgType type, const QMessageLogContext& context, const QString&
 
 LibraryMessages::LibraryMessages()
 {
-    lastMessage().clear();
+    lastMessage().text.clear();
     previous = qInstallMessageHandler(onMessage);
 }
 
@@ -42,6 +47,6 @@ LibraryMessages::~LibraryMessages()
 
 QString LibraryMessages::last() const
 {
-    const QMutexLocker locker(&mutex);
-    return lastMessage();
+    const QMutexLocker locker(&lastMessage().mutex);
+    return lastMessage().text;
 }

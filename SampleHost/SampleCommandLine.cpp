@@ -26,20 +26,14 @@ Parsed parse(const QStringList& arguments)
     QCommandLineParser parser;
     configure(parser);
     Parsed parsed;
-    if (!parser.parse(arguments)) {
-        parsed.error = parser.errorText();
-        parsed.error.chop(1); // the full stop
-    } else if (parser.isSet(QStringLiteral("help"))) {
-        parsed.action = Options::Action::Help;
-    } else if (parser.isSet(QStringLiteral("version"))) {
-        parsed.action = Options::Action::Version;
-    } else {
-        parsed.error = StyleOption::read(parser, parsed.style);
-        parsed.files = parser.positionalArguments();
-        if (parser.isSet(QStringLiteral("style")) && !DialogMenu::hasNativePanels() &&
-            parsed.style == CVyFileDialog::StyleNative)
-            parsed.error = QStringLiteral("--style: this build has no native panels");
-    }
+    parsed.error = CommandLine::read(parser, arguments, parsed.action);
+    if (!parsed.error.isEmpty() || parsed.action != Options::Action::Ask)
+        return parsed;
+    parsed.files = parser.positionalArguments();
+    parsed.error = StyleOption::read(parser, parsed.style);
+    if (parser.isSet(QStringLiteral("style")) && !DialogMenu::hasNativePanels() &&
+        parsed.style == CVyFileDialog::StyleNative)
+        parsed.error = QStringLiteral("--style: this build has no native panels");
     return parsed;
 }
 

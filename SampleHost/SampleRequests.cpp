@@ -11,7 +11,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -137,7 +136,7 @@ QString SampleWindow::openFile(const QString& path, const Answer& answer)
         m_drawings->setCurrentWidget(view);
     } else {
         Drawing drawing;
-        const QString fault = DrawingFiles::read(path, drawing);
+        QString fault = DrawingFiles::read(path, drawing);
         if (!fault.isEmpty())
             return fault;
         drawing.readOnly = answer.mode == CVyUserIO::OpenReadOnly;
@@ -191,10 +190,10 @@ Options SampleWindow::saveOptions(const Drawing& drawing) const
 
 void SampleWindow::saveAs()
 {
-    const QPointer<DrawingView> view = m_drawings->current();
+    DrawingView* const view = m_drawings->current();
     Drawing drawing = view->drawing();
     const Answer answer = request(saveOptions(drawing));
-    if (answer.paths.isEmpty() || !view)
+    if (answer.paths.isEmpty() || m_drawings->indexOf(view) < 0) // it was closed meanwhile
         return;
     const QString path = answer.paths.constFirst();
     const DrawingView* const open = m_drawings->find(path);
@@ -224,7 +223,7 @@ QString SampleWindow::startFolder() const
     if (!m_folder.isEmpty())
         return m_folder;
     const QList<VyBookmark> bookmarks = VyBookmarks();
-    const QString last =
+    QString last =
         bookmarks.isEmpty() ? QString() : QFileInfo(bookmarks.constFirst().path).absolutePath();
     if (!last.isEmpty() && QFileInfo(last).isDir())
         return last;

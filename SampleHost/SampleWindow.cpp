@@ -204,5 +204,5 @@ void SampleWindow::showEvent(QShowEvent* event)
     const QSize size = m_tools->sizeHint();
     m_tools->move(geometry().bottomRight() - QPoint(size.width() + 40, size.height() + 60));
     // Window managers keep it in front of this window where they know this one first.
-    QTimer::singleShot(0, m_tools, &QWidget::show);
+    QTimer::singleShot(0, m_tools, SLOT(show()));
 }

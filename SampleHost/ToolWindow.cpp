@@ -15,7 +15,7 @@ ToolWindow::ToolWindow(QWidget* owner)
     tools->addStrut(20 * fontMetrics().averageCharWidth()); // leaves its frame room for the title
     m_zoomIn = addTool("zoomIn", tr("Zoom &In"), &ToolWindow::zoomIn);
     m_zoomOut = addTool("zoomOut", tr("Zoom &Out"), &ToolWindow::zoomOut);
-    m_fit = addTool("fit", tr("&Fit"), &ToolWindow::fit);
+    m_fit = addTool("fit", tr("Fi&t"), &ToolWindow::fit);
     updateTools();
 }
 
