@@ -19,6 +19,8 @@ ExitStatus showWindow(const SampleCommandLine::Parsed& parsed)
 {
     if (!HostPlatform::hasDisplay())
         return fail(QStringLiteral("there is no display to show a window on"));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     HostProcess::startApplication(Program);
     SampleWindow window(parsed.style);
     window.show();

@@ -117,9 +117,9 @@ void SampleWindow::addWindowMenu()
     m_windows = menuBar()->addMenu(tr("&Window"));
     m_windows->setObjectName(QStringLiteral("windowMenu"));
     addCommand(m_windows,
-               {"nextDrawing", tr("&Next Drawing"), "Ctrl+Tab",
+               {"nextDrawing", tr("&Next Drawing"), "Ctrl+PgDown",
                 tr("Brings the next drawing to the front"), &SampleWindow::nextDrawing, true});
-    addCommand(m_windows, {"previousDrawing", tr("&Previous Drawing"), "Ctrl+Shift+Tab",
+    addCommand(m_windows, {"previousDrawing", tr("&Previous Drawing"), "Ctrl+PgUp",
                            tr("Brings the drawing before to the front"),
                            &SampleWindow::previousDrawing, true});
     m_windows->addSeparator();

@@ -246,6 +246,7 @@ void RequestTest::presetsTheTemplate()
     QCOMPARE(preset, path("c.dwt"));
     QCOMPARE(answer.mode, CVyUserIO::NewFromTemplate);
     QCOMPARE(answer.paths, QStringList{path("c.dwt")});
+    QCOMPARE(answer.templateName, m_options.templateName);
 }
 
 void RequestTest::tellsTheServices()
