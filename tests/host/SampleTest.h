@@ -57,5 +57,5 @@ DialogDriver::Step typing(const QString& name);
 /// A step that types a name, if there is one, and chooses an entry of the mode menu.
 DialogDriver::Step choosingMode(int index, const QString& name = QString());
 /// A step that reads a message into \a text and presses the button of that object
-/// name, or its default one.
+/// name, or accepts it.
 DialogDriver::Step reading(QString& text, const char* button = nullptr);
