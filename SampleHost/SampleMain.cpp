@@ -5,6 +5,7 @@
 #include "SampleCommandLine.h"
 #include "SampleWindow.h"
 #include "StandardStreams.h"
+#include "VyFileDialog.h"
 
 #include <QApplication>
 
@@ -22,6 +23,7 @@ ExitStatus showWindow(const SampleCommandLine::Parsed& parsed)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     HostProcess::startApplication(Program);
+    CVyFileDialog::LoadTranslations();
     SampleWindow window(parsed.style);
     window.show();
     window.openFiles(parsed.files);
