@@ -32,7 +32,7 @@ public:
     Q_DISABLE_COPY(FloatingWindowsHidden)
 
 private:
-    const VyFloatingWindows m_token = HideFloatingWindows();
+    const decltype(HideFloatingWindows()) m_token = HideFloatingWindows();
 };
 
 } // namespace
