@@ -19,8 +19,6 @@ public:
     operator QString() const { return QString::fromStdWString(m_text); }
 
     bool isEmpty() const { return m_text.empty(); }
-    int getLength() const { return static_cast<int>(m_text.size()); }
-    const wchar_t* c_str() const { return m_text.c_str(); }
 
     /// The parts between the separators; empty ones count.
     std::vector<AcmeString> SplitA(char separator) const;
@@ -39,14 +37,6 @@ public:
 
     AcmeString& operator+=(const AcmeString& other);
     friend AcmeString operator+(AcmeString a, const AcmeString& b) { return a += b; }
-    friend bool operator==(const AcmeString& a, const AcmeString& b)
-    {
-        return a.m_text == b.m_text;
-    }
-    friend bool operator!=(const AcmeString& a, const AcmeString& b)
-    {
-        return a.m_text != b.m_text;
-    }
 
 private:
     std::wstring m_text;
