@@ -83,8 +83,8 @@ def cells(row):
 def documents():
     """All that we keep, by their names."""
     names = [path.relative_to(ROOT).as_posix()
-             for path in sorted([*ROOT.glob("*.md"), *ROOT.glob("*/*.md")])
-             if path.parent.name not in ("build", "out")]
+             for path in sorted([*ROOT.glob("*.md"), *ROOT.glob("*/*.md"), *ROOT.glob("*/*/*.md")])
+             if path.relative_to(ROOT).parts[0] not in ("build", "out")]
     return [Document(name) for name in names]
 
 
