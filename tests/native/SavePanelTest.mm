@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "HostTemplates.h"
 #include "NativeTest.h"
 
 #include "VyBookmarks.h"
@@ -60,6 +61,7 @@ private Q_SLOTS:
     void asksBeforeReplacing();
     void nameFollowsTheType_data();
     void nameFollowsTheType();
+    void goesToTheTemplates();
     void savesInAFolder();
     void entersNoPackages();
 };
@@ -426,6 +428,17 @@ void SavePanelTest::nameFollowsTheType()
     save.filter = plainTypes;
     save.start = path(name);
     run(save, {isNamed(name), chooseType(picked), isNamed(followed), cancel()});
+}
+
+void SavePanelTest::goesToTheTemplates()
+{
+    addFile("templates/iso.dwt");
+    addFile("here/mine.dwg");
+    const HostTemplates folder(path("templates"));
+    HostRequest save = request(CVyUserIO::FileNameSave);
+    save.filter = "Drawing&*.dwg&Template&*.dwt";
+    save.start = path("here/plan.dwg");
+    run(save, {sees({"mine.dwg"}), chooseType(1), sees({"iso.dwt"}), cancel()});
 }
 
 void SavePanelTest::savesInAFolder()

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void sameFolderChangesNoButton();
     void layoutRunsOnceForAFolder();
     void wholeNamesWhereThereIsRoom();
+    void boldNameIsMeasuredAsSuch();
     void elidedWithToolTip();
     void widensAgain();
     void clicksInANarrowRowKeepTheNames();
@@ -302,6 +303,24 @@ void PathBarDialogTest::wholeNamesWhereThereIsRoom()
             QCOMPARE(button->toolTip(), QString());
             QCOMPARE(button->width(),
                      qMax(30, VyPathBar::paddedWidth(button->fontMetrics(), button->fullName())));
+        }
+    });
+}
+
+// A long name in bold is wider by more than the room around it.
+void PathBarDialogTest::boldNameIsMeasuredAsSuch()
+{
+    DrawingFolder base;
+    const QString name(45, 'w');
+    const QString folder = base.addFolder(name);
+    withDialogAt(base.path(), [&](QFileDialog& dialog) {
+        dialog.resize(1400, 600);
+        for (const QString& path : {folder, base.path()}) {
+            dialog.setDirectory(path);
+            CVyDirPushButton* const button = buttonNamed(dialog, name);
+            const QFontMetrics metrics(button->font());
+            QTRY_COMPARE(button->width(), VyPathBar::paddedWidth(metrics, name));
+            QCOMPARE(button->shownName(), name);
         }
     });
 }
