@@ -39,6 +39,10 @@ class Setting:
     def file(self, name):
         return str(pathlib.Path(self.build) / name)
 
+    def library(self, name):
+        """Where the system's kind of folder for libraries is in the build."""
+        return str(next(self.build.glob(f"lib*/**/{name}")))
+
     def program(self, name):
         return str(self.build / "benchmarks" / f"{name}Benchmark")
 

@@ -65,14 +65,14 @@ def preview(setting):
 
 
 def library(setting):
-    for path in ("VyFileDialogs/libVyFileDialogs.so", "HostKernel/libVyHostKernel.so"):
-        name = os.path.basename(path)
+    for name in ("libVyFileDialogs.so", "libVyHostKernel.so"):
+        path = setting.library(name)
         yield Case("library", f"{name}, loading", 0,
-                   {"subject": [setting.program("LoadTime"), "--library=" + setting.file(path)]},
+                   {"subject": [setting.program("LoadTime"), "--library=" + path]},
                    setting.repetitions(21))
         yield Case("library", f"{name}, contents", 0,
                    {"subject": [sys.executable, str(setting.root / "benchmarks/library.py"),
-                                setting.file(path)]},
+                                path]},
                    1, units={"relocations": "", "code": "KB", "data": "KB", "file": "KB"})
 
 
