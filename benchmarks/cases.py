@@ -39,7 +39,7 @@ class Setting:
     def file(self, name):
         return str(pathlib.Path(self.build) / name)
 
-    def library(self, name):
+    def shared_library(self, name):
         """Where the system's kind of folder for libraries is in the build."""
         return str(next(self.build.glob(f"lib*/**/{name}")))
 

@@ -66,7 +66,7 @@ def preview(setting):
 
 def library(setting):
     for name in ("libVyFileDialogs.so", "libVyHostKernel.so"):
-        path = setting.library(name)
+        path = setting.shared_library(name)
         yield Case("library", f"{name}, loading", 0,
                    {"subject": [setting.program("LoadTime"), "--library=" + path]},
                    setting.repetitions(21))
