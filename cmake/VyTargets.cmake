@@ -43,6 +43,15 @@ function(vy_product name)
     set_target_properties(${name} PROPERTIES EXPORT_COMPILE_COMMANDS ON)
 endfunction()
 
+# vy_many_sources(<name>): a product of so many that Qt's headers are read beforehand, in
+# builds that are made to be tested alone. The others tell of a header that is not included.
+function(vy_many_sources name)
+    if(VY_SANITIZERS OR VY_COVERAGE)
+        target_precompile_headers(${name} PRIVATE
+            "$<$<COMPILE_LANGUAGE:CXX>:<QtWidgets$<ANGLE-R>>")
+    endif()
+endfunction()
+
 # vy_shared_library(<name>): versioned, and complete in itself.
 function(vy_shared_library name)
     set_target_properties(${name} PROPERTIES
